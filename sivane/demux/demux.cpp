@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/demux/demux.h>
+#include <sivane/foundation/error.h>
+
+#include <algorithm>
+#include <ostream>
+#include <utility>
+
+namespace sivane {
+
+namespace {
+
+constexpr int header_size = 4;
+
+bool has_adaptation_field(Demux::TSHeader const& header) {
+  return (header.adaptation_field_control & 2) != 0;
+}
+
+}  // namespace
+
+Demux::TSHeader::TSHeader(unsigned char const* packet)
+    : transport_error_indicator(packet[1] >> 7),
+      payload_unit_start_indicator(packet[1] >> 6 & 1),
+      transport_priority(packet[1] >> 5 & 1),
+      pid((packet[1] & 0x1F) << 8 | packet[2]),
+      transport_scrambling_control(packet[3] >> 6),
+      adaptation_field_control(packet[3] >> 4 & 3),
+      continuity_counter(packet[3] & 0xF) {
+  if (packet[0] != ts_sync_byte) throw error("TS syncbyte expected");
+}
+
+void Demux::TSHeader::dump_state(std::ostream& os) const {
+  os << "tei: " << transport_error_indicator << " pusi: " << payload_unit_start_indicator
+     << " tp: " << transport_priority << " pid: " << std::hex << pid
+     << " tsc: " << transport_scrambling_control << " afc: " << adaptation_field_control
+     << " cc: " << continuity_counter << std::endl;
+}
+
+Demux::AdaptionFieldHeader::AdaptionFieldHeader(unsigned char const* field, int& length) {
+  length = field[0] + 1;
+}
+
+Demux::Demux() = default;
+
+Demux::~Demux() { reset(); }
+
+void Demux::reset() {
+  while (!pid_handlers.empty()) drop_pid(pid_handlers.begin());
+}
+
+void Demux::add_psi_handler(int pid, int table_id) { handler_for(pid).AddPsiHandler(table_id); }
+
+void Demux::add_psi_handler(int pid, unsigned char const* value, unsigned char const* mask, int size,
+                            unsigned long id) {
+  handler_for(pid).AddPsiHandler(value, mask, size, id);
+}
+
+void Demux::remove_psi_handler(int pid, int table_id) {
+  const auto entry = pid_handlers.find(pid);
+  if (entry == pid_handlers.end()) return;
+  entry->second->RemovePsiHandler(table_id);
+  if (entry->second->psi_handlers.empty()) drop_pid(entry);
+}
+
+void Demux::dump_state(std::ostream& os) const {
+  for (auto const& [pid, handler] : pid_handlers) {
+    os << "pid: " << std::hex << pid << std::endl;
+    handler->dump_state(os);
+  }
+}
+
+void Demux::stop(int code) {
+  stopped = true;
+  exit_code = code;
+}
+
+void Demux::idle() {}
+void Demux::on_raw_ts_packet(unsigned char const*) {}
+void Demux::on_ts_packet(TSHeader const&, unsigned char const*) {}
+void Demux::on_adaption_field_header_(AdaptionFieldHeader const&, unsigned char const*) {}
+void Demux::on_psi_section(unsigned long, int, unsigned char*) {}
+void Demux::on_psi_section(int, int, int, unsigned char const*) {}
+
+int Demux::start() {
+  unsigned char packet[ts_packet_size];
+  int got = 0;
+  while (read_buf(packet, ts_packet_size, got) && got == ts_packet_size && !stopped) {
+    on_raw_ts_packet(packet);
+    if (packet[0] != ts_sync_byte) return 2;
+    route_packet(packet);
+  }
+  return exit_code;
+}
+
+void Demux::route_packet(unsigned char const* packet) {
+  TSHeader header(packet);
+  const Payload payload = show_packet(header, packet);
+  if (is_handled(header.pid))
+    pid_handlers.find(header.pid)->second->parse(header, payload.data, payload.size);
+}
+
+Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* packet) {
+  on_ts_packet(header, packet + header_size);
+  int offset = header_size;
+  if (has_adaptation_field(header)) {
+    int field_length = 0;
+    const AdaptionFieldHeader field(packet + header_size, field_length);
+    offset = std::min(header_size + field_length, ts_packet_size);
+    on_adaption_field_header_(field, packet + offset);
+  }
+  return {packet + offset, ts_packet_size - offset};
+}
+
+Demux::PidHandler& Demux::handler_for(int pid) {
+  auto entry = pid_handlers.find(pid);
+  if (entry == pid_handlers.end()) {
+    auto handler = std::make_unique<PidHandler>(*this);
+    entry = pid_handlers.emplace(pid, handler.get()).first;
+    handler.release();
+    if (0 <= pid && pid < pid_count) handled_.set(static_cast<std::size_t>(pid));
+  }
+  return *entry->second;
+}
+
+void Demux::drop_pid(std::map<int, PidHandler*>::iterator entry) {
+  const auto [pid, handler] = *entry;
+  std::unique_ptr<PidHandler> owned(handler);
+  if (deliveries_ > 0) {
+    owned->removed_ = true;
+    retired_pids_.push_back(std::move(owned));
+  }
+  pid_handlers.erase(entry);
+  if (0 <= pid && pid < pid_count) handled_.reset(static_cast<std::size_t>(pid));
+}
+
+}  // namespace sivane

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/foundation/export.h>
+
+#include <bitset>
+#include <cstddef>
+#include <iosfwd>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+namespace sivane {
+
+/// Bytes of a transport packet (ISO/IEC 13818-1, 2.4.3.2); no other size is known to the library.
+inline constexpr int ts_packet_size = 188;
+inline constexpr unsigned char ts_sync_byte = 0x47;
+
+/// The routing core: takes packets from a driver, shows each of them to the host's hooks, and reassembles the
+/// sections of the PIDs that the host has registered.
+///
+/// Derive from a driver (`DemuxPush`, `DemuxIstream`, `Demux2`, or this class itself), override the hooks
+/// that you want, register with `add_psi_handler`, and run the driver. Everything runs on the caller's
+/// thread; an object belongs to one thread at a time. An exception that a hook throws leaves through the
+/// driver untouched.
+///
+/// Of each packet the first section that starts in it is assembled, and error, scrambling and continuity bits
+/// are not looked at: a lost packet shows up as a wrong CRC in the section that it was part of.
+///
+/// A hook may register and remove handlers, the one that is delivering to it included: it gets no further
+/// calls.
+class SIVANE_API Demux {
+ public:
+  class PidHandler;
+  class PSIHandler;
+  class PSIFilterHandler;
+
+  /// The four header bytes of a packet, unpacked (ISO/IEC 13818-1, 2.4.3.2).
+  class SIVANE_API TSHeader {
+   public:
+    /// Throws `error` "TS syncbyte expected" if the first byte is not 0x47.
+    explicit TSHeader(unsigned char const* packet);
+    /// One line. The stream is hexadecimal from the PID on and stays so.
+    void dump_state(std::ostream& os) const;
+
+    int transport_error_indicator;     ///< 1 bit
+    int payload_unit_start_indicator;  ///< 1 bit
+    int transport_priority;            ///< 1 bit
+    int pid;                           ///< 13 bits
+    int transport_scrambling_control;  ///< 2 bits
+    int adaptation_field_control;      ///< 2 bits
+    int continuity_counter;            ///< 4 bits
+  };
+
+  /// Marks that a packet has an adaptation field. The field's contents are not decoded.
+  class SIVANE_API AdaptionFieldHeader {
+   public:
+    /// `length` is 1 to 256: the adaptation_field_length byte and the bytes that it counts, as the byte
+    /// claims.
+    AdaptionFieldHeader(unsigned char const* field, int& length);
+  };
+
+  /// What takes the payloads of one PID.
+  class SIVANE_API BaseHandler {
+   public:
+    explicit BaseHandler(Demux& owner) : demux(owner) {}
+    virtual void parse(TSHeader const& header, bool start, unsigned char const* data, int size) = 0;
+    virtual void dump_state(std::ostream& os) const;
+
+    Demux& demux;
+
+   protected:
+    ~BaseHandler() = default;
+  };
+
+  /// Bytes as they arrive become a section (ISO/IEC 13818-1, 2.4.4).
+  struct SIVANE_API SectionBuffer {
+    static constexpr int capacity = 8192;
+
+    /// Takes a payload. True if the section is complete now; `close` follows its delivery.
+    bool take(bool start, unsigned char const* data, int size);
+    void close();
+    /// The whole size that the header claims, 3 to 4098.
+    int need() const { return ((section[1] & 0xF) << 8 | section[2]) + 3; }
+
+    unsigned char section[capacity] = {};
+    int section_size = 0;     ///< bytes held
+    bool in_section = false;  ///< a section has started and is not yet delivered
+  };
+
+  Demux();
+  Demux(Demux const&) = delete;
+  Demux& operator=(Demux const&) = delete;
+
+  /// Reads packets with `read_buf` until it gives no whole packet or `stop` was called. The result is
+  /// `exit_code`, 1 unless `stop` gave another, or 2 where a packet does not begin with 0x47.
+  int start();
+  /// Drops every PID with all of its handlers; `stopped` and `exit_code` stay.
+  void reset();
+
+  /// Asks for the sections of `table_id` on `pid`. Asking twice is asking once.
+  void add_psi_handler(int pid, int table_id);
+  /// Asks for the sections on `pid` whose first `size` bytes, ANDed with `mask`, equal `value`; `size` 0
+  /// matches all. They arrive through the three-argument hook under `id`. `mask` and `value` are not copied:
+  /// keep them alive. Every call adds a filter.
+  void add_psi_handler(int pid, unsigned char const* value, unsigned char const* mask, int size,
+                       unsigned long id);
+  /// Drops the handler of `table_id`; with the last one on `pid` the filters of `pid` go too.
+  void remove_psi_handler(int pid, int table_id);
+  void dump_state(std::ostream& os) const;
+
+  std::map<int, PidHandler*> pid_handlers;  ///< by PID; owned, changed by the operations above only
+  bool stopped = false;                     ///< set by `stop`, cleared by nothing
+  int exit_code = 1;                        ///< result of `start`
+
+ protected:
+  ~Demux();
+
+  /// For hooks: ends `start` at its next packet, with `code` as its result.
+  void stop(int code);
+
+  /// Fills `buffer` and sets `got`. False when no further read makes sense.
+  virtual bool read_buf(unsigned char* buffer, int size, int& got) = 0;
+  virtual void idle();
+  /// Each packet of a pull driver, before its sync byte is looked at.
+  virtual void on_raw_ts_packet(unsigned char const* packet);
+  virtual void on_ts_packet(TSHeader const& header, unsigned char const* after_header);
+  /// `after_field` is at most the packet's end, whatever the field's length byte claims.
+  virtual void on_adaption_field_header_(AdaptionFieldHeader const& field, unsigned char const* after_field);
+  /// A section that a filter let through; `section` holds `size` bytes and is valid during the call only.
+  virtual void on_psi_section(unsigned long id, int size, unsigned char* section);
+  /// A whole section; `section` is valid during the call only, `section_number` is its byte 6.
+  virtual void on_psi_section(int pid, int table_id, int section_number, unsigned char const* section);
+
+ private:
+  friend class DemuxPush;
+  friend class Demux2;
+  class Delivery;
+  static constexpr int pid_count = 0x2000;
+
+  /// Shows a packet that begins with 0x47 to the hooks and gives it to the handler of its PID.
+  void route_packet(unsigned char const* packet);
+  /// Shows the packet to the hooks. What is left of it behind header and adaptation field is its payload.
+  struct Payload {
+    unsigned char const* data;
+    int size;  ///< 0 to 184
+  };
+  Payload show_packet(TSHeader const& header, unsigned char const* packet);
+
+  PidHandler& handler_for(int pid);
+  bool is_handled(int pid) const { return handled_[static_cast<std::size_t>(pid)]; }
+  void drop_pid(std::map<int, PidHandler*>::iterator entry);
+
+  std::bitset<pid_count> handled_;  // which PIDs stand in pid_handlers
+  int deliveries_ = 0;              // calls of PidHandler::parse under way
+  // Handlers that a hook removed live on in here until no delivery is under way.
+  std::vector<std::unique_ptr<PSIHandler>> retired_handlers_;
+  std::vector<std::unique_ptr<PidHandler>> retired_pids_;
+};
+
+/// Assembles the sections of one table id on one PID.
+class SIVANE_API Demux::PSIHandler final : public BaseHandler, public SectionBuffer {
+ public:
+  PSIHandler(Demux& owner, int id);
+  void parse(TSHeader const& header, bool start, unsigned char const* data, int size) override;
+  void dump_state(std::ostream& os) const override;
+  /// Drops the partial section; its continuation packets are ignored until the next start.
+  void invalidate();
+
+  int table_id;
+
+ private:
+  friend class PidHandler;
+  bool removed_ = false;
+};
+
+/// Assembles every section on one PID and delivers those that its byte filter lets through.
+class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public SectionBuffer {
+ public:
+  PSIFilterHandler(Demux& owner, unsigned char const* filter_value, unsigned char const* filter_mask,
+                   int filter_size, unsigned long filter_id);
+  void parse(TSHeader const& header, bool start, unsigned char const* data, int size) override;
+  /// Compares the section from its table id on, the length bytes included.
+  bool filter_match() const;
+
+  unsigned char const* mask;   ///< the host's storage
+  unsigned char const* value;  ///< the host's storage
+  int size;                    ///< bytes in `mask` and in `value`
+  unsigned long id;            ///< the host's number, given back in the hook
+};
+
+/// The handlers of one PID.
+class SIVANE_API Demux::PidHandler {
+ public:
+  explicit PidHandler(Demux& owner) : demux(owner) {}
+  PidHandler(PidHandler const&) = delete;
+  PidHandler& operator=(PidHandler const&) = delete;
+  ~PidHandler();
+
+  /// Takes the payload of one packet. Nothing outside its `size` bytes is read; a payload without a byte, and
+  /// one whose pointer_field leads out of it, is ignored.
+  void parse(TSHeader& header, unsigned char const* data, int size);
+  void AddPsiHandler(int table_id);
+  void AddPsiHandler(unsigned char const* value, unsigned char const* mask, int size, unsigned long id);
+  void RemovePsiHandler(int table_id);
+  /// Drops the partial sections of the table id handlers; filters keep theirs.
+  void invalidate();
+  void dump_state(std::ostream& os) const;
+
+  std::map<int, PSIHandler*> psi_handlers;      ///< by table id; owned
+  std::set<PSIFilterHandler*> filter_handlers;  ///< owned; delivery goes in the order of the pointers
+  Demux& demux;
+  PSIHandler* current = nullptr;  ///< takes the continuation packets
+
+ private:
+  friend class Demux;
+  void start_section(TSHeader const& header, unsigned char const* data, int size);
+  void give(TSHeader const& header, bool start, unsigned char const* data, int size);
+  void give_to_filters(TSHeader const& header, bool start, unsigned char const* data, int size);
+
+  bool removed_ = false;
+};
+
+/// The push driver: the host hands over buffers of whole packets.
+class SIVANE_API DemuxPush : public Demux {
+ public:
+  /// 0: all packets were processed. -1: `size` is no whole number of packets, nothing was. 2: a packet does
+  /// not begin with 0x47; those before it were processed. A section may span two calls.
+  int push_data(unsigned char const* data, int size);
+
+ protected:
+  bool read_buf(unsigned char* buffer, int size, int& got) override;
+};
+
+/// The pull driver on a standard input stream, which must outlive the object.
+class SIVANE_API DemuxIstream : public Demux {
+ public:
+  explicit DemuxIstream(std::istream& source) : stream_(source) {}
+
+ protected:
+  bool read_buf(unsigned char* buffer, int size, int& got) override;
+
+ private:
+  std::istream& stream_;
+};
+
+/// The polling driver: one source for each handled PID, read a packet at a time in turn.
+class SIVANE_API Demux2 : public Demux {
+ public:
+  /// Runs until `end_of_input`, whatever `stopped` says, and gives `exit_code`. A packet goes to the handler
+  /// of the PID that it was read for. Lost sync drops every section in progress and the run goes on. PIDs
+  /// that a hook registers meanwhile are read from the next call on.
+  int start();
+
+ protected:
+  ~Demux2() = default;
+  using Demux::read_buf;
+
+  virtual bool end_of_input() = 0;
+  virtual bool read_buf(int pid, unsigned char* buffer, int size, int& got) = 0;
+
+ private:
+  void poll(int pid, unsigned char* packet, int& length);
+  void invalidate();
+};
+
+}  // namespace sivane

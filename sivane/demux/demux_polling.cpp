@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/demux/demux.h>
+#include <sivane/foundation/trace_log.h>
+
+#include <array>
+
+namespace sivane {
+
+int Demux2::start() {
+  using Packet = std::array<unsigned char, ts_packet_size>;
+  std::vector<Packet> packets(pid_handlers.size());
+  std::vector<int> lengths(pid_handlers.size());
+  while (!end_of_input()) {
+    // A hook may change the map, so that the next entry is looked for by PID.
+    auto entry = pid_handlers.begin();
+    for (std::size_t i = 0; i < packets.size() && entry != pid_handlers.end(); ++i) {
+      const int pid = entry->first;
+      poll(pid, packets[i].data(), lengths[i]);
+      entry = pid_handlers.upper_bound(pid);
+    }
+    idle();
+  }
+  return exit_code;
+}
+
+void Demux2::poll(int pid, unsigned char* packet, int& length) {
+  const bool result = read_buf(pid, packet, ts_packet_size, length);
+  log_write(3, "read_buf(%d)=%d", length, result ? 1 : 0);
+  if (!result || length != ts_packet_size) return;
+  log_write(3, "bytes read");
+  on_raw_ts_packet(packet);
+  if (packet[0] != ts_sync_byte) {
+    log_write(3, "invalid sync byte");
+    invalidate();
+    return;
+  }
+  TSHeader header(packet);
+  const Payload payload = show_packet(header, packet);
+  const auto entry = pid_handlers.find(pid);
+  if (entry != pid_handlers.end()) entry->second->parse(header, payload.data, payload.size);
+}
+
+void Demux2::invalidate() {
+  for (auto const& [pid, handler] : pid_handlers) handler->invalidate();
+}
+
+}  // namespace sivane

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+#include <iosfwd>
+#include <vector>
+
+namespace sivane {
+
+/// What all descriptors share: a tag, a length and six operations. Descriptors are plain values, held by
+/// value and never deleted through this class.
+class SIVANE_API DescriptorBase {
+ public:
+  /// The tag line, then the class's own lines. The stream stays hexadecimal and filled with "0".
+  virtual void dump_state(std::ostream& os) const;
+  /// The descriptor's name; a literal of the dumps, odd spellings included.
+  virtual char const* get_tag_text() const = 0;
+  virtual bool _save_section(void* document, void* element) const = 0;
+  virtual void _dump_state(std::ostream& os) const = 0;
+  /// Empties the variable part where the class has one that can be; fixed members, `tag` and `length` stay.
+  virtual void _reset() = 0;
+  virtual void _parse(void* node) = 0;
+
+  int tag = 0;     ///< descriptor_tag, 8 bits
+  int length = 0;  ///< descriptor_length, 8 bits: the body bytes behind it
+
+ protected:
+  DescriptorBase() = default;
+  explicit DescriptorBase(DescriptorBytes descriptor) : tag(descriptor.tag()), length(descriptor.length()) {}
+  DescriptorBase(DescriptorBase const&) = default;
+  DescriptorBase(DescriptorBase&&) = default;
+  DescriptorBase& operator=(DescriptorBase const&) = default;
+  DescriptorBase& operator=(DescriptorBase&&) = default;
+  ~DescriptorBase() = default;
+};
+
+/// Declares what every descriptor class `Class` defines. The wire constructor takes a bare pointer to the tag
+/// byte as well, takes any tag, and throws `error` as the class's comment says; a class whose comment names
+/// no failure throws "too little data" only.
+#define SIVANE_DESCRIPTOR(Class)                                    \
+  Class() = default;                                                \
+  explicit Class(DescriptorBytes descriptor);                       \
+  char const* get_tag_text() const override;                        \
+  bool _save_section(void* document, void* element) const override; \
+  void _dump_state(std::ostream& os) const override;                \
+  void _reset() override;                                           \
+  void _parse(void* node) override;
+
+/// The first two bytes of any descriptor, as an overlay.
+struct descriptor_base {
+  unsigned char tag;
+  unsigned char length;
+};
+
+/// A descriptor of which the library knows tag, length and bytes.
+class SIVANE_API DescriptorGeneral final : public DescriptorBase {
+ public:
+  SIVANE_DESCRIPTOR(DescriptorGeneral)
+  explicit DescriptorGeneral(descriptor_base const* descriptor);
+  /// For a host that builds one by hand; with a length below 1 `data` stays empty.
+  DescriptorGeneral(int descriptor_tag, unsigned char const* bytes, int descriptor_length);
+
+  std::vector<unsigned char> data;  ///< the body
+};
+
+}  // namespace sivane

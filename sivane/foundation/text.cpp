@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/foundation/text.h>
+
+namespace sivane {
+
+Text::Text(unsigned char const* field, int& used) { parse(field, used); }
+
+void Text::parse(unsigned char const* field, int& used) {
+  parse(field[0], field + 1);
+  used = field[0] + 1;
+}
+
+void Text::parse(int length, unsigned char const* data) {
+  if (length <= 0) return;
+  char const* const text = reinterpret_cast<char const*>(data);
+  const int selector = is_char_table(text[0]) ? 1 : 0;
+  append(text + selector, static_cast<std::size_t>(length - selector));
+}
+
+void Text::parse(Reader& reader) {
+  const int length = reader.u8();
+  parse(length, reader.raw(static_cast<std::size_t>(length)));
+}
+
+bool Text::is_char_table(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  return byte <= 0x06 || (byte >= 0x0F && byte <= 0x12) || byte == 0x1F;
+}
+
+LengthPrefixedString::LengthPrefixedString(unsigned char const* data, int /*size*/, int& used)
+    : LengthPrefixedString(read_record<LengthPrefixedString>(Reader::trusting(data), used)) {}
+
+LengthPrefixedString::LengthPrefixedString(Reader& reader)
+    : length(reader.u8()), value(reader.string(static_cast<std::size_t>(length))) {}
+
+void LengthPrefixedString::dump_state(char const* label, std::ostream& os) const {
+  os << label;
+  dump::line(os, "_length: ", length);
+  os << label;
+  dump::line(os, ": ", value);
+}
+
+}  // namespace sivane

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+#include <iosfwd>
+#include <string>
+
+namespace sivane {
+
+/// A DVB text field (ETSI EN 300 468, Annex A): the bytes as they came, without a character table selector in
+/// front. No character set conversion takes place. One selector byte is dropped; bytes that belong to a
+/// longer selector stay in the text.
+class SIVANE_API Text : public std::string {
+ public:
+  Text() = default;
+  /// A length byte and that many bytes at `field`; `used` is the length plus 1.
+  Text(unsigned char const* field, int& used);
+
+  /// Appends the field to what the text holds.
+  void parse(unsigned char const* field, int& used);
+  void parse(int length, unsigned char const* data);
+  /// Appends the length-prefixed field that stands next.
+  void parse(Reader& reader);
+
+ private:
+  static bool is_char_table(char c);
+};
+
+/// A length byte and a string that is taken as it comes, a character table selector included.
+class SIVANE_API LengthPrefixedString {
+ public:
+  LengthPrefixedString() = default;
+  /// `used` is the length plus 1. `size` is not looked at.
+  LengthPrefixedString(unsigned char const* data, int size, int& used);
+  explicit LengthPrefixedString(Reader& reader);
+
+  /// Two lines, `label` with "_length: " and `label` with ": ".
+  void dump_state(char const* label, std::ostream& os) const;
+
+  int length = 0;  ///< 8 bits
+  std::string value;
+};
+
+}  // namespace sivane

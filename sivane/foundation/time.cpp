@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/foundation/scan.h>
+#include <sivane/foundation/time.h>
+
+#include <cstdio>
+#include <ostream>
+
+namespace sivane {
+
+namespace {
+
+int bcd_byte(Reader& reader) {
+  const int tens = reader.bits(4);
+  return tens * 10 + reader.bits(4);
+}
+
+std::ostream& write(std::ostream& os, DateTime const& d) {
+  return os << d.day << '/' << d.month << '-' << d.year << ' ' << d.hour << ':' << d.minute << ':'
+            << d.second;
+}
+
+std::ostream& write(std::ostream& os, Duration const& d) {
+  return os << d.hour << ':' << d.minute << ':' << d.second;
+}
+
+/// The date of a Modified Julian Date by the formula of Annex C; conversions to an integer cut towards zero.
+void set_date(DateTime& date, int mjd) {
+  constexpr double days_a_year = 365.25;
+  constexpr double days_a_month = 30.6001;
+  const int y = static_cast<int>((mjd - 15078.2) * 0.0027378507871321013);
+  const int year_days = static_cast<int>(y * days_a_year);
+  const int m = static_cast<int>((mjd - 14956.1 - year_days) * 0.03267963176590926);
+  const int k = m == 14 || m == 15 ? 1 : 0;
+  date.day = mjd - 14956 - year_days - static_cast<int>(m * days_a_month);
+  date.month = m - 1 - 12 * k;
+  date.year = y + k + 1900;
+}
+
+}  // namespace
+
+DateTime::DateTime(unsigned char const* data) {
+  Reader reader = Reader::trusting(data);
+  *this = DateTime(reader);
+}
+
+DateTime::DateTime(Reader& reader) {
+  set_date(*this, reader.u16());
+  hour = bcd_byte(reader);
+  minute = bcd_byte(reader);
+  second = bcd_byte(reader);
+}
+
+void DateTime::dump_state(std::ostream& os) const { write(os, *this) << std::endl; }
+
+std::string DateTime::get_date_as_text() const {
+  std::string text = std::to_string(day);
+  for (const int number : {month, year, hour, minute, second}) text += ' ' + std::to_string(number);
+  return text;
+}
+
+bool DateTime::set_date_from_text(char const* text) {
+  scan_numbers(text, 10, day, month, year, hour, minute, second);
+  return true;
+}
+
+std::ostream& operator<<(std::ostream& os, DateTime const& date) { return write(os << std::dec, date); }
+
+Duration::Duration(unsigned char const* data) {
+  Reader reader = Reader::trusting(data);
+  *this = Duration(reader);
+}
+
+Duration::Duration(Reader& reader)
+    : hour(bcd_byte(reader)), minute(bcd_byte(reader)), second(bcd_byte(reader)) {}
+
+void Duration::dump_state(std::ostream& os) const { write(os, *this) << std::endl; }
+
+std::string Duration::get_time_as_text() const {
+  return std::to_string(hour) + ' ' + std::to_string(minute) + ' ' + std::to_string(second);
+}
+
+bool Duration::set_time_from_text(char const* text) {
+  scan_numbers(text, 10, hour, minute, second);
+  return true;
+}
+
+std::ostream& operator<<(std::ostream& os, Duration const& duration) {
+  return write(os << std::dec, duration);
+}
+
+TimeOffset::TimeOffset(unsigned char const* data) {
+  Reader reader = Reader::trusting(data);
+  *this = TimeOffset(reader);
+}
+
+TimeOffset::TimeOffset(Reader& reader) : hour(bcd_byte(reader)), minute(bcd_byte(reader)) {}
+
+std::ostream& operator<<(std::ostream& os, TimeOffset const& offset) {
+  return os << std::dec << offset.hour << ':' << offset.minute;
+}
+
+ApplicationIdentifier::ApplicationIdentifier(unsigned char const* data) {
+  Reader reader = Reader::trusting(data);
+  *this = ApplicationIdentifier(reader);
+}
+
+ApplicationIdentifier::ApplicationIdentifier(Reader& reader)
+    : organisation_id(reader.u32()), application_id(reader.u16()) {}
+
+void ApplicationIdentifier::dump_state(std::ostream& os) const {
+  dump::line(os, "organisation_id: ", organisation_id);
+  dump::line(os, "application_id: ", application_id);
+}
+
+std::string ApplicationIdentifier::application_identifier_as_text() const {
+  char text[8 + 1 + 8 + 1];
+  std::snprintf(text, sizeof text, "%08X %04X", organisation_id, static_cast<unsigned int>(application_id));
+  return text;
+}
+
+bool ApplicationIdentifier::set_application_identifier_from_text(char const* text) {
+  scan_numbers(text, 16, organisation_id, application_id);
+  return true;
+}
+
+}  // namespace sivane

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/foundation/error.h>
+#include <sivane/foundation/trace_log.h>
+#include <sivane/tables/crc.h>
+#include <sivane/tables/section.h>
+
+#include <cstdint>
+#include <iomanip>
+#include <ostream>
+
+namespace sivane {
+
+namespace {
+
+constexpr int short_header_size = 3;
+constexpr int long_header_size = 8;
+constexpr int crc_size = 4;
+
+int syntax_bit(unsigned char const* section) { return section[1] >> 7; }
+
+int length_field(unsigned char const* section) { return (section[1] & 0xF) << 8 | section[2]; }
+
+std::size_t section_size(unsigned char const* section) {
+  return static_cast<std::size_t>(length_field(section) + short_header_size);
+}
+
+void require_whole(unsigned char const* section, std::size_t available) {
+  if (available < short_header_size || available < section_size(section)) raise(too_little_data);
+}
+
+/// The failure names the byte by the low 32 bits of its address.
+[[noreturn]] void syntax_failure(unsigned char const* byte) {
+  throw error(error::syntax_error, static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(byte)));
+}
+
+void check_crc(unsigned char const* section) {
+  const std::uint32_t crc = crc_register(section, section_size(section));
+  if (crc == 0) return;
+  log_write(1, "crc error, got %#x expected 0xffffffff", ~crc);
+  throw error("crc error");
+}
+
+/// Of `size` bytes from `body` to the end of the section the last `trailer` are no part of the body.
+Reader make_body_reader(unsigned char const* body, int size, int trailer) {
+  if (size < 0) raise(too_little_data);
+  const int own = size > trailer ? size - trailer : 0;
+  return {body, static_cast<std::size_t>(own), static_cast<std::size_t>(size)};
+}
+
+}  // namespace
+
+void PsiTableBase::Parse(unsigned char const* section) {
+  syntax_indicator = syntax_bit(section);
+  section_length = length_field(section);
+  check_crc(section);
+  if (syntax_bit(section) == 0) syntax_failure(section);
+  if (!is_valid_syntax_indicator(syntax_bit(section))) syntax_failure(section + 1);
+  if (!is_valid_reserved_header(section[1] >> 4 & 3)) syntax_failure(section + 1);
+  table_id = section[0];
+  if (!is_valid_tablesid()) throw error("invalid table id");
+  read_header(section);
+  _parse(section + long_header_size);
+  valid = true;
+}
+
+void PsiTableBase::Parse(unsigned char const* section, std::size_t available) {
+  require_whole(section, available);
+  Parse(section);
+}
+
+void PsiTableBase::read_header(unsigned char const* section) {
+  const std::size_t size = section_size(section);
+  if (size < long_header_size) raise(too_little_data);
+  Reader reader(section, size, size);
+  reader.skip_bits(short_header_size * 8);
+  context_id = reader.u16();
+  reader.skip_bits(2);
+  version_number = reader.bits(5);
+  current_next_indicator = reader.bits(1);
+  section_number = reader.u8();
+  last_section_number = reader.u8();
+  crc32 = Reader(section + size - crc_size, crc_size, crc_size).u32();
+}
+
+Reader PsiTableBase::body_reader(unsigned char const* body) const {
+  return make_body_reader(body, section_length + short_header_size - long_header_size, crc_size);
+}
+
+void PsiTableBase::reset() {
+  descriptors.clear();
+  valid = false;
+  _reset();
+}
+
+void PsiTableBase::dump_state(std::ostream& os) const {
+  os << std::hex << std::right << std::unitbuf << std::uppercase << std::setfill('0');
+  dump::line(os, "table_id ", table_id, 2);
+  dump::line(os, "section_length ", section_length, 4);
+  dump::line(os, "context_id ", context_id, 4);
+  dump::line(os, "version_number ", version_number, 2);
+  dump::line(os, "section_number ", section_number, 2);
+  dump::line(os, "last_section_number ", last_section_number);
+  dump::line(os, "current_next_indicator ", current_next_indicator, 2);
+  dump::line(os, "crc32 ", crc32, 8);
+  dump::each(os, descriptors);
+  _dump_state(os);
+}
+
+bool PsiTableBase::is_valid_syntax_indicator(int) const { return true; }
+
+bool PsiTableBase::is_valid_reserved_header(int) const { return true; }
+
+void PsiBase::Parse(unsigned char const* section) {
+  constexpr int length_must_be_zero = 0x0C;
+  if (!is_syntax_indicator_valid(syntax_bit(section))) syntax_failure(section);
+  if ((section[1] & length_must_be_zero) != 0) syntax_failure(section + 1);
+  table_id = section[0];
+  if (!is_valid_tablesid()) throw error("invalid table id");
+  section_length = length_field(section);
+  _parse(section + short_header_size);
+  valid = true;
+}
+
+void PsiBase::Parse(unsigned char const* section, std::size_t available) {
+  require_whole(section, available);
+  Parse(section);
+}
+
+Reader PsiBase::body_reader(unsigned char const* body) const {
+  return make_body_reader(body, section_length, 0);
+}
+
+bool PsiBase::is_syntax_indicator_valid(int) const { return true; }
+
+void PsiBase::_dump_state(std::ostream& os) const {
+  dump::line(os, "table_id: ", table_id);
+  dump::line(os, "section_length: ", section_length);
+}
+
+void PsiBase::dump_state(std::ostream& os) const { _dump_state(os); }
+
+}  // namespace sivane

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/descriptor.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+#include <cstddef>
+#include <iosfwd>
+#include <vector>
+
+namespace sivane {
+
+/// The frame of long-form sections: five header bytes behind the length, and a CRC (ISO/IEC 13818-1, 2.4.4).
+///
+/// `Parse` adds to what the object holds: call `reset` before an object is used again. A `Parse` that throws
+/// leaves `valid` as it was, and fields and containers as far as it got. Nothing is kept of the caller's
+/// bytes.
+class SIVANE_API PsiTableBase {
+ public:
+  virtual void Parse(void* node);
+  /// Checks and reads the section at `section`, which must hold the section_length + 3 bytes that it claims.
+  /// Throws `error`: "crc error", `syntax_error` for the header bits, "invalid table id", and what the table
+  /// adds.
+  virtual void Parse(unsigned char const* section);
+  virtual bool SaveSection(void* document, void* element) const;
+  /// The table's name by its id.
+  virtual char const* get_table_id_text() const = 0;
+  /// Empties what the table class holds.
+  virtual void _reset() = 0;
+  virtual void _dump_state(std::ostream& os) const = 0;
+  virtual void _parse(void* node) = 0;
+  /// Reads what follows the header; `body` is byte 8 of the section.
+  virtual void _parse(unsigned char const* body) = 0;
+  virtual bool _save_section(void* document, void* element) const = 0;
+  /// Whether `table_id`, which is set already, is one of the table's.
+  virtual bool is_valid_tablesid() const = 0;
+  virtual bool is_valid_syntax_indicator(int indicator) const;
+  /// `bits` are the two reserved bits behind the section_syntax_indicator and the bit that follows it.
+  virtual bool is_valid_reserved_header(int bits) const;
+
+  /// The same as `Parse(section)` for `available` bytes; "too little data" if the section does not fit in
+  /// them.
+  void Parse(unsigned char const* section, std::size_t available);
+  int get_table_id() const { return table_id; }
+  /// Empties the containers and clears `valid`; the numbers stay.
+  void reset();
+  /// The header, then the body. The stream stays hexadecimal, upper-case and filled with "0".
+  void dump_state(std::ostream& os) const;
+
+  int table_id = 0;                            ///< 8 bits
+  int syntax_indicator = 0;                    ///< 1 bit
+  int section_length = 0;                      ///< 12 bits: the bytes behind this field
+  int context_id = 0;                          ///< 16 bits: table_id_extension
+  int version_number = 0;                      ///< 5 bits
+  int section_number = 0;                      ///< 8 bits
+  int last_section_number = 0;                 ///< 8 bits
+  int current_next_indicator = 0;              ///< 1 bit
+  bool valid = false;                          ///< a `Parse` has run to its end
+  unsigned long crc32 = 0;                     ///< 32 bits, as stored in the section
+  std::vector<DescriptorGeneral> descriptors;  ///< the host's: no operation of the library adds to it
+
+ protected:
+  PsiTableBase() = default;
+  PsiTableBase(PsiTableBase const&) = default;
+  PsiTableBase(PsiTableBase&&) = default;
+  PsiTableBase& operator=(PsiTableBase const&) = default;
+  PsiTableBase& operator=(PsiTableBase&&) = default;
+  ~PsiTableBase() = default;
+
+  /// A reader of a long-form body without its CRC; nothing behind the section can be read.
+  Reader body_reader(unsigned char const* body) const;
+
+ private:
+  void read_header(unsigned char const* section);
+};
+
+/// The frame of short-form sections: three header bytes and no CRC of its own (ETSI EN 300 468, 5.2.5
+/// to 5.2.7).
+class SIVANE_API PsiBase {
+ public:
+  virtual void Parse(void* node);
+  /// As `PsiTableBase::Parse`. Throws `error`: `syntax_error` for the header bits, "invalid table id", and
+  /// what the table adds.
+  virtual void Parse(unsigned char const* section);
+  virtual bool SaveSection(void* document, void* element) const;
+  virtual bool is_syntax_indicator_valid(int indicator) const;
+  virtual char const* get_table_id_text() const = 0;
+  virtual void _reset() = 0;
+  /// "table_id: " and "section_length: " in the stream's base; a table calls this first.
+  virtual void _dump_state(std::ostream& os) const;
+  virtual void _parse(void* node) = 0;
+  /// Reads what follows the header; `body` is byte 3 of the section.
+  virtual void _parse(unsigned char const* body) = 0;
+  virtual bool _save_section(void* document, void* element) const = 0;
+  virtual bool is_valid_tablesid() const = 0;
+
+  void Parse(unsigned char const* section, std::size_t available);
+  void dump_state(std::ostream& os) const;
+
+  int table_id = 0;        ///< 8 bits
+  int section_length = 0;  ///< 12 bits: the bytes behind this field
+  bool valid = false;      ///< a `Parse` has run to its end
+
+ protected:
+  PsiBase() = default;
+  PsiBase(PsiBase const&) = default;
+  PsiBase(PsiBase&&) = default;
+  PsiBase& operator=(PsiBase const&) = default;
+  PsiBase& operator=(PsiBase&&) = default;
+  ~PsiBase() = default;
+
+  /// A reader of a short-form body.
+  Reader body_reader(unsigned char const* body) const;
+};
+
+}  // namespace sivane
