@@ -16,8 +16,8 @@
 // From packets to sections: derive from one of the drivers.
 #include <sivane/demux/demux.h>
 
-// Descriptors, as the tables hold them.
-#include <sivane/descriptors/descriptor.h>
+// Descriptors, filed by tag as the tables hold them; brings every descriptor class.
+#include <sivane/descriptors/descriptor_set.h>
 
 // From sections to tables.
 #include <sivane/tables/pat.h>

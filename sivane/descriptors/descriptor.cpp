@@ -18,7 +18,7 @@ DescriptorGeneral::DescriptorGeneral(DescriptorBytes descriptor)
     : DescriptorBase(descriptor), data(descriptor.body().rest()) {}
 
 DescriptorGeneral::DescriptorGeneral(descriptor_base const* descriptor)
-    : DescriptorGeneral(DescriptorBytes(&descriptor->tag)) {}
+    : DescriptorGeneral(DescriptorBytes(bytes_of(descriptor))) {}
 
 DescriptorGeneral::DescriptorGeneral(int descriptor_tag, unsigned char const* bytes, int descriptor_length)
     : data(Reader::within(bytes, descriptor_length).rest()) {
@@ -53,7 +53,5 @@ char const* DescriptorGeneral::get_tag_text() const {
 }
 
 void DescriptorGeneral::_dump_state(std::ostream& os) const { dump::block(os, "data:", data); }
-
-void DescriptorGeneral::_reset() { data.clear(); }
 
 }  // namespace sivane

@@ -37,16 +37,15 @@ class SIVANE_API DescriptorBase {
   ~DescriptorBase() = default;
 };
 
-/// Declares what every descriptor class `Class` defines. The wire constructor takes a bare pointer to the tag
-/// byte as well, takes any tag, and throws `error` as the class's comment says; a class whose comment names
-/// no failure throws "too little data" only.
+/// Declares what every descriptor class `Class` has. The wire constructor takes a bare pointer to the tag
+/// byte as well, takes any tag, and throws `error` as the class's comment says; where the comment names no
+/// failure, "too little data" is the only one. Each class says next to this what it prints and what `_reset`
+/// empties.
 #define SIVANE_DESCRIPTOR(Class)                                    \
   Class() = default;                                                \
   explicit Class(DescriptorBytes descriptor);                       \
   char const* get_tag_text() const override;                        \
   bool _save_section(void* document, void* element) const override; \
-  void _dump_state(std::ostream& os) const override;                \
-  void _reset() override;                                           \
   void _parse(void* node) override;
 
 /// The first two bytes of any descriptor, as an overlay.
@@ -54,11 +53,16 @@ struct descriptor_base {
   unsigned char tag;
   unsigned char length;
 };
+inline unsigned char const* bytes_of(descriptor_base const* descriptor) {
+  return reinterpret_cast<unsigned char const*>(descriptor);
+}
 
 /// A descriptor of which the library knows tag, length and bytes.
 class SIVANE_API DescriptorGeneral final : public DescriptorBase {
  public:
   SIVANE_DESCRIPTOR(DescriptorGeneral)
+  void _dump_state(std::ostream& os) const override;
+  void _reset() override { data.clear(); }
   explicit DescriptorGeneral(descriptor_base const* descriptor);
   /// For a host that builds one by hand; with a length below 1 `data` stays empty.
   DescriptorGeneral(int descriptor_tag, unsigned char const* bytes, int descriptor_length);

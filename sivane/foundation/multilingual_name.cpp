@@ -12,9 +12,8 @@ MultilingualNameInfo::MultilingualNameInfo(Reader& reader) {
   reader.need(4, {error::length_error, "multilingual_name_info_descriptor"});
   reader.code(ISO_639_language_code);
   text_len = reader.u8();
-  const auto size = static_cast<std::size_t>(text_len);
-  reader.need(size, {error::length_error, "multilingual_name_info_descriptor:2"});
-  name = reader.string(size);
+  reader.need(text_len, {error::length_error, "multilingual_name_info_descriptor:2"});
+  name = reader.string(text_len);
 }
 
 void MultilingualNameInfo::_dump_state(std::ostream& os) const {

@@ -22,37 +22,23 @@ DescriptorBytes::DescriptorBytes(unsigned char const* descriptor, unsigned char 
 }
 
 Reader DescriptorBytes::body(Failure overrun) const {
-  const auto available = static_cast<std::size_t>(limit - first) - 2;
-  return {first + 2, static_cast<std::size_t>(length()), available, overrun};
+  return {first + 2, length(), static_cast<int>(limit - first) - 2, overrun};
 }
 
-Reader Reader::within(unsigned char const* first, int size) {
-  const auto bytes = static_cast<std::size_t>(std::max(size, 0));
-  return {first, bytes, bytes};
-}
+Reader Reader::trusting(unsigned char const* first) { return within(first, std::numeric_limits<int>::max()); }
 
-Reader Reader::trusting(unsigned char const* first) {
-  constexpr std::size_t unbounded = std::numeric_limits<std::size_t>::max() / 8;
-  return {first, unbounded, unbounded};
-}
-
-unsigned int Reader::number(unsigned int count) {
-  std::size_t bit = take(count);
+unsigned int Reader::number(int count) {
+  auto remaining = static_cast<std::size_t>(count);
+  std::size_t bit = take(remaining);
   unsigned int value = 0;
-  while (count > 0) {
-    const auto offset = static_cast<unsigned int>(bit % 8);
-    const unsigned int taken = std::min(count, 8 - offset);
-    const unsigned int chunk = (*at(bit) >> (8 - offset - taken)) & ((1u << taken) - 1);
-    value = value << taken | chunk;
-    bit += taken;
-    count -= taken;
+  while (remaining > 0) {
+    const std::size_t in_byte = std::min(remaining, 8 - bit % 8);
+    const unsigned int chunk = *at(bit) >> (8 - bit % 8 - in_byte) & ((1u << in_byte) - 1);
+    value = value << in_byte | chunk;
+    bit += in_byte;
+    remaining -= in_byte;
   }
   return value;
-}
-
-void Reader::code(char (&three_letters)[4]) {
-  std::copy_n(raw(3), 3, three_letters);
-  three_letters[3] = '\0';
 }
 
 double Reader::bcd(std::initializer_list<double> weights) {
@@ -61,24 +47,29 @@ double Reader::bcd(std::initializer_list<double> weights) {
   return value;
 }
 
-std::string Reader::string(std::size_t size) { return {reinterpret_cast<char const*>(raw(size)), size}; }
+std::string Reader::string(int size) {
+  return {reinterpret_cast<char const*>(raw(size)), static_cast<std::size_t>(size)};
+}
 
-std::vector<unsigned char> Reader::bytes(std::size_t size) {
+std::vector<unsigned char> Reader::bytes(int size) {
   unsigned char const* const first = raw(size);
   return {first, first + size};
 }
 
-Reader Reader::sub(std::size_t size, Failure overrun) {
-  const std::size_t bit = position_;
-  if (size > (limit_ - bit) / 8) raise(overrun);
-  position_ += size * 8;
-  return {at(bit), size, (limit_ - bit) / 8, overrun};
+void Reader::code(char (&three_letters)[4]) {
+  std::copy_n(raw(3), 3, three_letters);
+  three_letters[3] = '\0';
+}
+
+Reader Reader::sub(int size, Failure overrun) {
+  unsigned char const* const first = raw(size);
+  return {first, size, size + static_cast<int>((limit_ - position_) / 8), overrun};
 }
 
 DescriptorBytes Reader::descriptor() {
   unsigned char const* const first = raw(2);
   raw(first[1]);
-  return {first, first_ + limit_ / 8};
+  return {first, at(limit_)};
 }
 
 }  // namespace sivane

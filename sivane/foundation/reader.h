@@ -45,54 +45,82 @@ struct SIVANE_API DescriptorBytes {
 ///
 /// A reader has two ends. Its own bytes stop at its end, which is what `more`, `left` and `rest` go by.
 /// Single fields may run over it, since many length fields of broadcasts are wrong, but never over its limit,
-/// which is the end of the section: such a read throws the failure that the reader was made with.
+/// which is the end of the section: such a read throws the failure that the reader was made with. Sizes are
+/// in bytes.
 class SIVANE_API Reader {
  public:
   /// `size` bytes at `first` are the reader's own; `limit` bytes from `first` on may be read.
-  Reader(unsigned char const* first, std::size_t size, std::size_t limit, Failure overrun = too_little_data)
-      : first_(first), end_(size * 8), limit_(limit * 8), overrun_(overrun) {}
-  /// Exactly the bytes of a buffer; a size below 0 is none.
-  static Reader within(unsigned char const* first, int size);
+  Reader(unsigned char const* first, int size, int limit, Failure overrun = too_little_data)
+      : first_(first), end_(bits_of(size)), limit_(bits_of(limit)), overrun_(overrun) {}
+  /// Exactly the bytes of a buffer.
+  static Reader within(unsigned char const* first, int size, Failure overrun = too_little_data) {
+    return {first, size, size, overrun};
+  }
   /// For a record at a bare pointer, whose own length bytes are its only bound.
   static Reader trusting(unsigned char const* first);
 
   /// An unsigned field of at most 31 bits.
-  int bits(unsigned int count) { return static_cast<int>(number(count)); }
+  int bits(int count) { return static_cast<int>(number(count)); }
   bool flag() { return number(1) != 0; }
   int u8() { return static_cast<int>(number(8)); }
   int u16() { return static_cast<int>(number(16)); }
   unsigned int u32() { return number(32); }
-  void skip_bits(unsigned int count) { take(count); }
+  int i32() { return static_cast<int>(number(32)); }
+  void skip_bits(int count) { take(static_cast<std::size_t>(count)); }
+  /// BCD digits, high nibble first, summed as digit times weight; a nibble above 9 counts with its value.
+  double bcd(std::initializer_list<double> weights);
 
   // The operations below start at a whole byte.
 
+  /// The address of the next `size` bytes, and steps over them.
+  unsigned char const* raw(int size) { return at(take(bits_of(size))); }
+  std::string string(int size);
+  std::vector<unsigned char> bytes(int size);
+  /// A length byte and that many characters.
+  std::string prefixed_string() { return string(u8()); }
   /// An ISO 639 or ISO 3166 code: three bytes, and a terminating zero behind them.
   void code(char (&three_letters)[4]);
-  /// BCD digits, high nibble first, summed as digit times weight; a nibble above 9 counts with its value.
-  double bcd(std::initializer_list<double> weights);
-  std::string string(std::size_t size);
-  std::vector<unsigned char> bytes(std::size_t size);
   /// The bytes up to the reader's own end; none if the position is there or behind it.
   std::string rest_as_string() { return string(left()); }
   std::vector<unsigned char> rest() { return bytes(left()); }
-  /// The address of the next `size` bytes, and steps over them.
-  unsigned char const* raw(std::size_t size) { return at(take(size * 8)); }
+
   /// A reader of the next `size` bytes with the same limit, and steps over them.
-  Reader sub(std::size_t size, Failure overrun);
+  Reader sub(int size) { return sub(size, overrun_); }
+  /// The same with another failure for what is read from it.
+  Reader sub(int size, Failure overrun);
   /// The descriptor that starts here, and steps over it; throws the reader's failure if it passes the limit.
   DescriptorBytes descriptor();
 
+  /// Records of their own sizes up to the end; throws the reader's failure unless the last one ends there.
+  template <class Record>
+  std::vector<Record> walk();
+  /// Records of `size` bytes up to the end; throws `failure` unless that is a whole number of them.
+  template <class Record>
+  std::vector<Record> records(int size, Failure failure);
+  /// Plain unsigned numbers of `width` bits up to the end; throws `failure` unless that is a whole number of
+  /// them.
+  template <class Number>
+  std::vector<Number> numbers(int width, Failure failure);
+
   bool more() const { return position_ < end_; }
   bool past_end() const { return position_ > end_; }
-  std::size_t left() const { return more() ? (end_ - position_) / 8 : 0; }
-  std::size_t consumed() const { return position_ / 8; }
+  /// Whole bytes between the position and the reader's own end.
+  int left() const { return more() ? static_cast<int>((end_ - position_) / 8) : 0; }
+  int consumed() const { return static_cast<int>(position_ / 8); }
   /// Throws `failure` if fewer than `size` bytes of the reader's own are left.
-  void need(std::size_t size, Failure failure) const {
+  void need(int size, Failure failure) const {
     if (left() < size) raise(failure);
+  }
+  /// Throws `failure` if the bytes left are no whole number of items, or the position is behind the end.
+  void need_whole(int item_size, Failure failure) const {
+    if (past_end() || left() % item_size != 0) raise(failure);
   }
 
  private:
-  unsigned int number(unsigned int count);
+  static constexpr std::size_t bits_of(int bytes) {
+    return bytes > 0 ? static_cast<std::size_t>(bytes) * 8 : 0;
+  }
+  unsigned int number(int count);
   std::size_t take(std::size_t count) {
     if (count > limit_ - position_) raise(overrun_);
     position_ += count;
@@ -107,11 +135,37 @@ class SIVANE_API Reader {
   Failure overrun_;
 };
 
+template <class Record>
+std::vector<Record> Reader::walk() {
+  std::vector<Record> found;
+  while (more()) found.emplace_back(*this);
+  if (past_end()) raise(overrun_);
+  return found;
+}
+
+template <class Record>
+std::vector<Record> Reader::records(int size, Failure failure) {
+  need_whole(size, failure);
+  std::vector<Record> found;
+  found.reserve(static_cast<std::size_t>(left() / size));
+  while (more()) found.emplace_back(*this);
+  return found;
+}
+
+template <class Number>
+std::vector<Number> Reader::numbers(int width, Failure failure) {
+  need_whole(width / 8, failure);
+  std::vector<Number> found;
+  found.reserve(static_cast<std::size_t>(left() / (width / 8)));
+  while (more()) found.push_back(static_cast<Number>(number(width)));
+  return found;
+}
+
 /// Builds a record from a bare pointer as its public constructors do; `consumed` is the bytes that it took.
 template <class Record>
 Record read_record(Reader reader, int& consumed) {
   Record record(reader);
-  consumed = static_cast<int>(reader.consumed());
+  consumed = reader.consumed();
   return record;
 }
 

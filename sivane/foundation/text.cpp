@@ -19,10 +19,7 @@ void Text::parse(int length, unsigned char const* data) {
   append(text + selector, static_cast<std::size_t>(length - selector));
 }
 
-void Text::parse(Reader& reader) {
-  const int length = reader.u8();
-  parse(length, reader.raw(static_cast<std::size_t>(length)));
-}
+void Text::parse(Reader& reader) { parse(reader, reader.u8()); }
 
 bool Text::is_char_table(char c) {
   const auto byte = static_cast<unsigned char>(c);
@@ -33,7 +30,7 @@ LengthPrefixedString::LengthPrefixedString(unsigned char const* data, int /*size
     : LengthPrefixedString(read_record<LengthPrefixedString>(Reader::trusting(data), used)) {}
 
 LengthPrefixedString::LengthPrefixedString(Reader& reader)
-    : length(reader.u8()), value(reader.string(static_cast<std::size_t>(length))) {}
+    : length(reader.u8()), value(reader.string(length)) {}
 
 void LengthPrefixedString::dump_state(char const* label, std::ostream& os) const {
   os << label;

@@ -24,6 +24,8 @@ class SIVANE_API Text : public std::string {
   void parse(int length, unsigned char const* data);
   /// Appends the length-prefixed field that stands next.
   void parse(Reader& reader);
+  /// Appends the next `length` bytes.
+  void parse(Reader& reader, int length) { parse(length, reader.raw(length)); }
 
  private:
   static bool is_char_table(char c);

@@ -29,7 +29,7 @@ void Pat::_parse(unsigned char const* body) {
     throw error(error::length_error, "Pat parse error");
   }
   Reader reader = body_reader(body);
-  program_infos.reserve(program_infos.size() + reader.left() / entry_size);
+  program_infos.reserve(program_infos.size() + static_cast<std::size_t>(reader.left() / entry_size));
   while (reader.more()) program_infos.emplace_back(reader);
 }
 

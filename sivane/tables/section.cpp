@@ -22,12 +22,11 @@ int syntax_bit(unsigned char const* section) { return section[1] >> 7; }
 
 int length_field(unsigned char const* section) { return (section[1] & 0xF) << 8 | section[2]; }
 
-std::size_t section_size(unsigned char const* section) {
-  return static_cast<std::size_t>(length_field(section) + short_header_size);
-}
+int section_size(unsigned char const* section) { return length_field(section) + short_header_size; }
 
 void require_whole(unsigned char const* section, std::size_t available) {
-  if (available < short_header_size || available < section_size(section)) raise(too_little_data);
+  if (available < short_header_size) raise(too_little_data);
+  if (available < static_cast<std::size_t>(section_size(section))) raise(too_little_data);
 }
 
 /// The failure names the byte by the low 32 bits of its address.
@@ -36,7 +35,7 @@ void require_whole(unsigned char const* section, std::size_t available) {
 }
 
 void check_crc(unsigned char const* section) {
-  const std::uint32_t crc = crc_register(section, section_size(section));
+  const std::uint32_t crc = crc_register(section, static_cast<std::size_t>(section_size(section)));
   if (crc == 0) return;
   log_write(1, "crc error, got %#x expected 0xffffffff", ~crc);
   throw error("crc error");
@@ -45,8 +44,7 @@ void check_crc(unsigned char const* section) {
 /// Of `size` bytes from `body` to the end of the section the last `trailer` are no part of the body.
 Reader make_body_reader(unsigned char const* body, int size, int trailer) {
   if (size < 0) raise(too_little_data);
-  const int own = size > trailer ? size - trailer : 0;
-  return {body, static_cast<std::size_t>(own), static_cast<std::size_t>(size)};
+  return {body, size - trailer, size};
 }
 
 }  // namespace
@@ -71,9 +69,9 @@ void PsiTableBase::Parse(unsigned char const* section, std::size_t available) {
 }
 
 void PsiTableBase::read_header(unsigned char const* section) {
-  const std::size_t size = section_size(section);
+  const int size = section_size(section);
   if (size < long_header_size) raise(too_little_data);
-  Reader reader(section, size, size);
+  Reader reader = Reader::within(section, size);
   reader.skip_bits(short_header_size * 8);
   context_id = reader.u16();
   reader.skip_bits(2);
@@ -81,7 +79,7 @@ void PsiTableBase::read_header(unsigned char const* section) {
   current_next_indicator = reader.bits(1);
   section_number = reader.u8();
   last_section_number = reader.u8();
-  crc32 = Reader(section + size - crc_size, crc_size, crc_size).u32();
+  crc32 = Reader::within(section + size - crc_size, crc_size).u32();
 }
 
 Reader PsiTableBase::body_reader(unsigned char const* body) const {

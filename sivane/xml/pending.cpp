@@ -3,7 +3,7 @@
 //
 // Documents are not supported yet. Until they are, loading is a clear failure and saving is refused, so that
 // no host takes an empty element for a saved one.
-#include <sivane/descriptors/descriptor.h>
+#include <sivane/descriptors/descriptor_set.h>
 #include <sivane/foundation/error.h>
 #include <sivane/tables/pat.h>
 #include <sivane/tables/section.h>
@@ -24,5 +24,10 @@ bool Pat::_save_section(void*, void*) const { return false; }
 
 void DescriptorGeneral::_parse(void*) { not_supported(); }
 bool DescriptorGeneral::_save_section(void*, void*) const { return false; }
+
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+  void Class::_parse(void*) { not_supported(); }          \
+  bool Class::_save_section(void*, void*) const { return false; }
+#include <sivane/descriptors/descriptor_rows.inc>
 
 }  // namespace sivane

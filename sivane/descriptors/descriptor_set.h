@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/cell.h>
+#include <sivane/descriptors/descriptor.h>
+#include <sivane/descriptors/event.h>
+#include <sivane/descriptors/mosiac.h>
+#include <sivane/descriptors/mpeg_systems.h>
+#include <sivane/descriptors/network.h>
+#include <sivane/descriptors/service.h>
+#include <sivane/descriptors/stream.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+#include <memory>
+#include <vector>
+
+namespace sivane {
+
+/// Descriptors filed by tag: one vector for each class, one for the other tags below 0x80 and one for those
+/// from 0x80 on. Which classes there are, and under which getters, stands in descriptor_rows.inc.
+///
+/// Order within a vector is order of appearance; a repeated tag gives a further element. Only what was filed
+/// is paid for: an empty set is one null pointer. A class that owns descriptors derives from this one.
+class SIVANE_API DescriptorSet {
+ public:
+  DescriptorSet() noexcept;
+  DescriptorSet(DescriptorSet const& other);
+  DescriptorSet(DescriptorSet&& other) noexcept;
+  DescriptorSet& operator=(DescriptorSet const& other);
+  DescriptorSet& operator=(DescriptorSet&& other) noexcept;
+  ~DescriptorSet();
+
+  /// Builds the class of the descriptor's tag and appends it to its vector. A descriptor that throws is not
+  /// filed; those before it stay.
+  void ParseDescriptor(DescriptorBytes descriptor);
+  /// Files the descriptors that start within the next `size` bytes of `reader`, and steps over them. The last
+  /// one may run over the `size` bytes; true if it does not. Throws `overrun` where one would leave the
+  /// section.
+  bool parse_descriptors(Reader& reader, int size, Failure overrun);
+  // The vectors: `get_CA_descriptors()`, `get_short_event_descriptors()` and so on; empty where none was
+  // filed. A reference is good until the set changes.
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) std::vector<Class> const& getter() const;
+#define SIVANE_GENERAL_ROW(kind, getter, element) std::vector<DescriptorGeneral> const& getter() const;
+#include <sivane/descriptors/descriptor_rows.inc>
+
+ private:
+  struct Group;    // the vector of one row
+  struct Storage;  // what is done with groups
+
+  std::unique_ptr<Group> groups_;  // those that hold something, linked in row order
+};
+
+}  // namespace sivane
