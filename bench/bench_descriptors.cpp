@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// Descriptor loops as they stand in the tables of a broadcast, parsed into the sets of their owners.
+#include <sivane/descriptors/descriptor_set.h>
+
+#include <string_view>
+
+#include "allocations.h"
+#include "compare.h"
+#include "section_builder.h"
+
+namespace {
+
+using sivane::testing::Bytes;
+using sivane::testing::hex;
+using sivane::testing::make_descriptor;
+using sivane::testing::operator+;
+
+Bytes text(std::string_view characters) { return {characters.begin(), characters.end()}; }
+
+Bytes prefixed(std::string_view characters) {
+  return Bytes{static_cast<unsigned char>(characters.size())} + text(characters);
+}
+
+/// One loop an owner: streams of a program map, services, events, transponders.
+std::vector<Bytes> loops() {
+  const Bytes subtitles = make_descriptor(0x59, hex("646575 10 0001 0001 656E67 10 0002 0002"));
+  const Bytes teletext = make_descriptor(0x56, hex("646575 09 00 646575 11 50"));
+  const Bytes service =
+      make_descriptor(0x48, Bytes{0x01} + prefixed("Harbour Media") + prefixed("Harbour One"));
+  const Bytes event = make_descriptor(0x4D, text("eng") + prefixed("The lighthouse keeper") +
+                                                prefixed("A documentary in three parts about the coast"));
+  const Bytes long_event = make_descriptor(
+      0x4E,
+      Bytes{0x00} + text("eng") + Bytes{0} +
+          prefixed("Sixty years of storms, ships and letters home, told by those who kept the light burning, "
+                   "and by the gulls. With pictures from the archive of the harbour office."));
+  const Bytes satellite = make_descriptor(0x43, hex("01175850 0192 C9 02750003"));
+  return {
+      make_descriptor(0x52, {0x01}) + make_descriptor(0x09, hex("0500 E1F5")),
+      make_descriptor(0x52, {0x02}) + make_descriptor(0x0A, hex("656E67 00")),
+      make_descriptor(0x52, {0x03}) + teletext,
+      make_descriptor(0x52, {0x04}) + subtitles,
+      make_descriptor(0x52, {0x05}) + make_descriptor(0x6A, hex("40 08")) +
+          make_descriptor(0x0A, hex("656E67 00")),
+      service + make_descriptor(0x53, hex("0500 0600")),
+      service + make_descriptor(0x4A, hex("0001 0002 0003 01")),
+      event + make_descriptor(0x50, hex("F1 03 01 656E67")) + make_descriptor(0x54, hex("2300")),
+      event + long_event + make_descriptor(0x50, hex("F2 03 02 656E67")) +
+          make_descriptor(0x54, hex("1000 2000")) + make_descriptor(0x55, hex("444555 09")),
+      event + make_descriptor(0x4F, hex("0102 0304")),
+      make_descriptor(0x41, hex("0001 01 0002 01 0003 02 0004 19 0005 0C")) + satellite +
+          make_descriptor(0x5F, hex("00000028")) + make_descriptor(0x83, hex("0001FC01 0002FC02")),
+  };
+}
+
+int descriptors_in(std::vector<Bytes> const& all) {
+  int count = 0;
+  for (Bytes const& loop : all) {
+    for (std::size_t at = 0; at < loop.size(); at += loop[at + 1] + 2u) ++count;
+  }
+  return count;
+}
+
+void parse(std::vector<Bytes> const& all, std::vector<sivane::DescriptorSet>& owners) {
+  owners.clear();
+  for (Bytes const& loop : all) {
+    const int size = static_cast<int>(loop.size());
+    sivane::Reader reader = sivane::Reader::within(loop.data(), size);
+    owners.emplace_back().parse_descriptors(reader, size, sivane::too_little_data);
+  }
+}
+
+/// The least that keeps descriptors: a block of memory for the bytes of each.
+void keep_bytes(std::vector<Bytes> const& all, std::vector<std::vector<Bytes>>& owners) {
+  owners.clear();
+  for (Bytes const& loop : all) {
+    std::vector<Bytes>& owner = owners.emplace_back();
+    for (auto at = loop.begin(); at != loop.end(); at += at[1] + 2) owner.emplace_back(at, at + at[1] + 2);
+  }
+}
+
+void parse_descriptors(benchmark::State& state) {
+  constexpr int rounds = 1000;
+  const std::vector<Bytes> all = loops();
+  std::size_t bytes = 0;
+  for (Bytes const& loop : all) bytes += loop.size() * rounds;
+  std::vector<sivane::DescriptorSet> owners;
+  std::vector<std::vector<Bytes>> copies;
+  const auto repeat = [](auto once) {
+    for (int i = 0; i < rounds; ++i) once();
+  };
+  parse(all, owners);  // the vector of owners has its memory from here on
+  const std::size_t before = sivane::bench::allocations();
+  parse(all, owners);
+  const std::size_t taken = sivane::bench::allocations() - before;
+  sivane::bench::compare(
+      state, bytes, "the time of keeping the bytes of each in a block of memory",
+      [&] { repeat([&] { parse(all, owners); }); }, [&] { repeat([&] { keep_bytes(all, copies); }); });
+  state.counters["allocations"] = static_cast<double>(taken) / descriptors_in(all);
+}
+
+}  // namespace
+
+BENCHMARK(parse_descriptors)->Name("descriptors, a realistic mix")->Apply(sivane::bench::timed_by_hand);

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The main of a benchmark program: prints a sentence for each comparison.
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+#include <string>
+#include <vector>
+
+namespace {
+
+class RatioReporter final : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(Context const&) override { return true; }
+  void ReportRuns(std::vector<Run> const& runs) override {
+    for (Run const& run : runs) report(run);
+  }
+  bool failed = false;
+
+ private:
+  void report(Run const& run) {
+    const std::string name = name_of(run);
+    if (run.error_occurred) {
+      std::printf("%s: FAILED, %s\n", name.c_str(), run.error_message.c_str());
+      failed = true;
+      return;
+    }
+    std::printf("%s: %.2fx %s (8 of 10 rounds: %.2f to %.2f; %.0f against %.0f MB/s)\n", name.c_str(),
+                number(run, "ratio"), run.report_label.c_str(), number(run, "low"), number(run, "high"),
+                number(run, "speed") / 1e6, number(run, "yardstick_speed") / 1e6);
+    const auto allocations = run.counters.find("allocations");
+    if (allocations != run.counters.end()) {
+      std::printf("%s: %.2f allocations a descriptor\n", name.c_str(), allocations->second.value);
+    }
+    std::fflush(stdout);
+  }
+  /// The argument of a run stands where its name has a '#'.
+  static std::string name_of(Run const& run) {
+    std::string name = run.run_name.function_name;
+    const std::size_t place = name.find('#');
+    return place == std::string::npos ? name : name.replace(place, 1, run.run_name.args);
+  }
+  static double number(Run const& run, char const* name) { return run.counters.at(name).value; }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  RatioReporter reporter;
+  const std::size_t run = benchmark::RunSpecifiedBenchmarks(&reporter);
+  return run > 0 && !reporter.failed ? 0 : 1;
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// Two ways to do the same work, timed in turn in one run: on a busy machine their ratio holds where a time
+// does not.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <vector>
+
+namespace sivane::bench {
+
+using Clock = std::chrono::steady_clock;
+
+template <class Work>
+double seconds_of(Work& work) {
+  const auto start = Clock::now();
+  work();
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// The value below which `share` of the samples lie.
+inline double quantile(std::vector<double> samples, double share) {
+  const auto index = static_cast<std::ptrdiff_t>(share * static_cast<double>(samples.size() - 1));
+  std::nth_element(samples.begin(), samples.begin() + index, samples.end());
+  return samples[static_cast<std::size_t>(index)];
+}
+
+/// Runs both sides once in every iteration, the first to go changing in turn, and reports how many times as
+/// long `work` takes as `yardstick`. `bytes` is what each goes through; `yardstick_name` ends the printed
+/// line.
+template <class Work, class Yardstick>
+void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_name, Work work,
+             Yardstick yardstick) {
+  std::vector<double> times;
+  std::vector<double> yardstick_times;
+  std::vector<double> ratios;
+  bool work_first = false;
+  for (auto _ : state) {
+    work_first = !work_first;
+    double yardstick_time = work_first ? 0 : seconds_of(yardstick);
+    times.push_back(seconds_of(work));
+    if (work_first) yardstick_time = seconds_of(yardstick);
+    yardstick_times.push_back(yardstick_time);
+    ratios.push_back(times.back() / yardstick_time);
+    state.SetIterationTime(times.back() + yardstick_time);
+  }
+  state.counters["ratio"] = quantile(ratios, 0.5);
+  state.counters["low"] = quantile(ratios, 0.1);
+  state.counters["high"] = quantile(ratios, 0.9);
+  state.counters["speed"] = static_cast<double>(bytes) / quantile(times, 0.5);
+  state.counters["yardstick_speed"] = static_cast<double>(bytes) / quantile(yardstick_times, 0.5);
+  state.SetLabel(yardstick_name);
+}
+
+/// Iterations until both sides have taken a second together.
+inline void timed_by_hand(benchmark::internal::Benchmark* benchmark) {
+  benchmark->UseManualTime()->MinTime(1.0);
+}
+
+}  // namespace sivane::bench
