@@ -9,15 +9,14 @@ namespace sivane {
 
 int Demux2::start() {
   using Packet = std::array<unsigned char, ts_packet_size>;
-  std::vector<Packet> packets(pid_handlers.size());
-  std::vector<int> lengths(pid_handlers.size());
+  // A hook may change the map: the turns are those of the PIDs that are handled now.
+  std::vector<int> pids;
+  for (auto const& [pid, handler] : pid_handlers) pids.push_back(pid);
+  std::vector<Packet> packets(pids.size());
+  std::vector<int> lengths(pids.size());
   while (!end_of_input()) {
-    // A hook may change the map, so that the next entry is looked for by PID.
-    auto entry = pid_handlers.begin();
-    for (std::size_t i = 0; i < packets.size() && entry != pid_handlers.end(); ++i) {
-      const int pid = entry->first;
-      poll(pid, packets[i].data(), lengths[i]);
-      entry = pid_handlers.upper_bound(pid);
+    for (std::size_t i = 0; i < pids.size(); ++i) {
+      if (pid_handlers.count(pids[i]) != 0) poll(pids[i], packets[i].data(), lengths[i]);
     }
     idle();
   }

@@ -5,6 +5,11 @@
 
 namespace sivane {
 
+namespace {
+/// A stream larger than the caches is waited for; asking this early costs nothing where it is not.
+constexpr int prefetch_distance = 16 * ts_packet_size;
+}  // namespace
+
 int DemuxPush::push_data(unsigned char const* data, int size) {
   if (size % ts_packet_size != 0) {
     log_write(1, "Buffer length %d not a multiple of 188 bytes", size);
@@ -12,6 +17,7 @@ int DemuxPush::push_data(unsigned char const* data, int size) {
   }
   for (int offset = 0; offset < size; offset += ts_packet_size) {
     unsigned char const* const packet = data + offset;
+    if (offset < size - prefetch_distance) __builtin_prefetch(packet + prefetch_distance);
     if (packet[0] != ts_sync_byte) {
       log_write(1, "TS sync byte not found: %02X", static_cast<unsigned int>(packet[0]));
       return 2;

@@ -35,9 +35,8 @@ class SIVANE_API error : private std::exception {
   virtual char const* what() const noexcept;
 
   errorcode_enum code = no_errorcode;
-  unsigned int value =
-      0;             ///< `syntax_error` of a section: low 32 bits of the byte's address; else 0xFFFFFFFF
-  std::string text;  ///< the message
+  unsigned int value = 0;  ///< of a section's `syntax_error`: the low 32 bits of the byte's address
+  std::string text;        ///< the message
 };
 
 }  // namespace sivane

@@ -26,8 +26,10 @@ int nibble(char c) {
 }
 
 Bytes make_start(int table_id, int syntax_indicator, int reserved, int length) {
+  const int future_use =
+      table_id < 0x40 ? 0 : 1;  // a zero bit in the tables of MPEG, a reserved one in those of DVB
   Bytes bytes{low_byte(table_id)};
-  append_16(bytes, syntax_indicator << 15 | 1 << 14 | reserved << 12 | (length & 0xFFF));
+  append_16(bytes, syntax_indicator << 15 | future_use << 14 | reserved << 12 | (length & 0xFFF));
   return bytes;
 }
 
@@ -66,9 +68,10 @@ std::uint32_t slow_crc(Bytes const& bytes) {
 }
 
 void repair_crc(Bytes& section) {
-  section.resize(section.size() - crc_size);
-  const std::uint32_t crc = slow_crc(section);
-  for (int shift = 24; shift >= 0; shift -= 8) section.push_back(static_cast<unsigned char>(crc >> shift));
+  if (section.size() < crc_size) throw std::invalid_argument("no room for a CRC");
+  const auto stored = section.end() - static_cast<std::ptrdiff_t>(crc_size);
+  const std::uint32_t crc = slow_crc({section.begin(), stored});
+  for (int i = 0; i < 4; ++i) stored[i] = static_cast<unsigned char>(crc >> (24 - 8 * i));
 }
 
 Bytes make_section(LongSection const& h, Bytes const& body) {

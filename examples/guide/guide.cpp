@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The snippets of docs/guide.md in one program, run over the stream that it is given.
+#include <sivane/sivane.h>
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+// Sections from buffers
+
+class Receiver final : public sivane::DemuxPush {
+ public:
+  Receiver() { add_psi_handler(0x0000, 0x00); }
+
+  int program_maps = 0;
+
+ protected:
+  void on_psi_section(int pid, int table_id, int, const unsigned char* section) override {
+    if (table_id == 0x00) {
+      follow_programs(section);
+    } else {
+      ++program_maps;
+      std::cout << "program map on PID " << pid << '\n';
+    }
+  }
+
+ private:
+  void follow_programs(const unsigned char* section) {
+    sivane::Pat pat;
+    pat.Parse(section);
+    for (const sivane::Pat::program_info& program : pat.program_infos) {
+      if (program.program_number != 0) add_psi_handler(program.program_map_pid, 0x02);
+    }
+  }
+};
+
+// Sections by a filter
+
+class EventCounter final : public sivane::DemuxPush {
+ public:
+  EventCounter() { add_psi_handler(0x0012, value, mask, 1, 7); }
+
+  int sections = 0;
+
+ protected:
+  void on_psi_section(unsigned long id, int size, unsigned char* section) override {
+    sections += id == 7 && size > 0 && section[0] == value[0] ? 1 : 0;
+  }
+
+ private:
+  static constexpr unsigned char value[] = {0x4E};  // every bit of the mask counts, so that
+  static constexpr unsigned char mask[] = {0xFF};   // this is table id 0x4E alone
+};
+
+// A section that came from elsewhere
+
+void print_section(const std::vector<unsigned char>& bytes) {
+  sivane::Pat pat;
+  try {
+    pat.Parse(bytes.data(), bytes.size());
+    pat.dump_state(std::cout);
+  } catch (const sivane::error& failure) {
+    std::cout << "error " << failure.code << ' ' << failure.what() << '\n';
+  }
+}
+
+// Descriptors
+
+std::string service_name(const std::vector<unsigned char>& loop) {
+  const int size = static_cast<int>(loop.size());
+  sivane::Reader reader = sivane::Reader::within(loop.data(), size);
+  sivane::DescriptorSet descriptors;
+  descriptors.parse_descriptors(reader, size, sivane::too_little_data);
+  const auto& services = descriptors.get_service_descriptors();
+  return services.empty() ? "" : services.front().service_name;
+}
+
+int main(int argc, char** argv) {
+  std::ifstream file(argc > 1 ? argv[1] : "", std::ios::binary);
+  std::vector<char> text{std::istreambuf_iterator<char>(file), {}};
+  std::vector<unsigned char> stream(text.begin(), text.end());
+  const int size = static_cast<int>(stream.size());
+
+  Receiver receiver;
+  EventCounter events;
+  const bool whole =
+      receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0;
+  std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections\n";
+
+  print_section({0x00, 0xB0, 0x0D, 0x00});
+  std::cout << service_name({0x48, 0x09, 0x01, 0x03, 'A', 'B', 'C', 0x03, 'O', 'n', 'e'}) << '\n';
+  return whole && receiver.program_maps > 0 && events.sections > 0 ? 0 : 1;
+}

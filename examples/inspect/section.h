@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string_view>
+
+namespace inspect {
+
+/// A whole section as an input delivers it; views of the input's storage, valid during the call.
+struct Section {
+  static constexpr int no_pid = -1;
+
+  std::span<unsigned char const> bytes;  ///< section_length + 3 of them
+  int pid = no_pid;
+  std::string_view class_name = {};  ///< names the class to parse with; empty: by table id
+
+  int table_id() const { return bytes[0]; }
+};
+
+/// Bytes that tell how long a section is.
+inline constexpr std::size_t section_start_size = 3;
+
+/// The whole size that the first three bytes of a section claim.
+inline std::size_t claimed_size(unsigned char const* section) {
+  return static_cast<std::size_t>((section[1] & 0x0F) << 8 | section[2]) + section_start_size;
+}
+
+}  // namespace inspect

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/demux/demux.h>
+
+#include <functional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "heap_block.h"
+#include "packet_writer.h"
+
+namespace sivane::testing {
+
+using Sections = std::vector<Bytes>;
+
+/// A host that notes every call of a hook: as text in order, and the sections with their bytes. `on_call` is
+/// what the hook does besides; it gets the text.
+template <class Driver>
+class RecordingHost : public Driver {
+ public:
+  using Driver::Driver;
+  using Driver::stop;
+
+  struct Filtered {
+    unsigned long id;
+    Bytes bytes;
+    bool operator==(Filtered const&) const = default;
+  };
+
+  std::vector<std::string> calls;
+  Sections sections;               // of the four-argument hook
+  std::vector<Filtered> filtered;  // of the three-argument hook
+  std::function<void(std::string const&)> on_call;
+  unsigned char const* base = nullptr;  // addresses are noted as offsets from here where it is set
+
+ protected:
+  void on_raw_ts_packet(unsigned char const* packet) override { note("raw", packet); }
+  void on_ts_packet(Demux::TSHeader const& header, unsigned char const* after_header) override {
+    note("ts " + std::to_string(header.pid), after_header);
+  }
+  void on_adaption_field_header_(Demux::AdaptionFieldHeader const&, unsigned char const* after) override {
+    note("field", after);
+  }
+  void on_psi_section(unsigned long id, int size, unsigned char* section) override {
+    filtered.push_back({id, {section, section + size}});
+    note("filter " + std::to_string(id));
+    section[0] = 0xEE;  // every filter has its own copy
+  }
+  void on_psi_section(int pid, int table_id, int number, unsigned char const* section) override {
+    sections.emplace_back(section, section + ((section[1] & 0xF) << 8 | section[2]) + 3);
+    std::ostringstream text;
+    text << "section " << pid << ' ' << table_id << ' ' << number;
+    note(text.str());
+  }
+  void idle() override { note("idle"); }
+
+  void note(std::string const& call, unsigned char const* address = nullptr) {
+    calls.push_back(address != nullptr && base != nullptr ? call + " @" + std::to_string(address - base)
+                                                          : call);
+    if (on_call) on_call(call);
+  }
+};
+
+/// The push driver as a host has it, with whole streams as input.
+class PushHost : public RecordingHost<DemuxPush> {
+ public:
+  /// Pushes a copy that lies in a block of exactly its size.
+  int push(Bytes const& stream) {
+    const HeapBlock block(stream);
+    base = block.data();
+    return push_data(block.data(), block.size());
+  }
+  PSIHandler& handler(int pid, int table_id) { return *pid_handlers.at(pid)->psi_handlers.at(table_id); }
+};
+
+/// A packet whose payload is exactly these bytes; an adaptation field takes what room is left.
+inline Bytes exact_packet(int pid, bool start, Bytes const& payload) {
+  const int adaptation = payload.size() == 184 ? -1 : 183 - static_cast<int>(payload.size());
+  return make_packet({.pid = pid, .start = start, .adaptation = adaptation, .payload = payload});
+}
+
+/// A short-form section of `size` bytes in all, filled with a pattern that depends on its table id.
+inline Bytes patterned_section(int table_id, int size) {
+  Bytes body;
+  for (int i = 3; i < size; ++i) body.push_back(static_cast<unsigned char>(i * 7 + table_id));
+  return make_short_section(table_id, body);
+}
+
+/// Bytes `from` up to `to` of a section or stream.
+inline Bytes part(Bytes const& bytes, int from, int to) { return {bytes.begin() + from, bytes.begin() + to}; }
+
+}  // namespace sivane::testing

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The dumps that docs/dumps.md shows are those that the library writes.
+#include <gtest/gtest.h>
+#include <sivane/sivane.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "section_builder.h"
+
+namespace {
+
+std::string page() {
+  std::ifstream file(DUMPS_PAGE);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+template <class Object>
+std::string block_of(Object const& object) {
+  std::ostringstream os;
+  object.dump_state(os);
+  return "```\n" + os.str() + "```\n";
+}
+
+TEST(DumpsPage, ShowsWhatTheLibraryWrites) {
+  using namespace sivane::testing;
+  sivane::Pat pat;
+  pat.Parse(make_pat({{0, 0x10}, {1, 0x100}}, {.context_id = 0x22, .version_number = 3}).data());
+  EXPECT_NE(page().find(block_of(pat)), std::string::npos) << block_of(pat);
+
+  const sivane::DescriptorCa descriptor(hex("09 06 0500 E1F5 54 01").data());
+  EXPECT_NE(page().find(block_of(descriptor)), std::string::npos) << block_of(descriptor);
+}
+
+}  // namespace

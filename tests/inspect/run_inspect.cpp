@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "run_inspect.h"
+
+#include <stdlib.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace sivane::testing {
+
+namespace {
+
+/// A folder of this run alone.
+class Folder {
+ public:
+  Folder() {
+    std::string name = (std::filesystem::temp_directory_path() / "sivane-inspect-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+    path_ = name;
+  }
+  Folder(Folder const&) = delete;
+  Folder& operator=(Folder const&) = delete;
+  ~Folder() { std::filesystem::remove_all(path_); }
+
+  std::string file(char const* name) const { return (path_ / name).string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+std::string contents(std::string const& path) {
+  std::ostringstream text;
+  text << std::ifstream(path, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+std::string with_path(std::string arguments, std::string const& path) {
+  std::size_t const at = arguments.find('@');
+  return at == std::string::npos ? arguments : arguments.replace(at, 1, path);
+}
+
+}  // namespace
+
+Outcome inspect(std::string const& arguments, std::string const& input) {
+  Folder const folder;
+  std::string const in = folder.file("in");
+  std::ofstream(in, std::ios::binary) << input;
+  std::string const command = "('" SIVANE_INSPECT "' " + with_path(arguments, in) + ") < " + in + " > " +
+                              folder.file("out") + " 2> " + folder.file("err");
+  int const result = std::system(command.c_str());
+  return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, contents(folder.file("out")),
+          contents(folder.file("err"))};
+}
+
+Outcome inspect(std::string const& arguments, Bytes const& input) {
+  return inspect(arguments, std::string(input.begin(), input.end()));
+}
+
+std::string hex_text(Bytes const& bytes) {
+  std::string text;
+  for (unsigned char const byte : bytes) {
+    char digits[3];
+    std::snprintf(digits, sizeof digits, "%02x", static_cast<unsigned int>(byte));
+    text += digits;
+  }
+  return text;
+}
+
+int line_count(std::string const& text) {
+  return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+}
+
+}  // namespace sivane::testing
