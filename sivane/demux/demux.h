@@ -137,7 +137,7 @@ class SIVANE_API Demux {
  private:
   friend class DemuxPush;
   friend class Demux2;
-  class Delivery;
+  class SIVANE_LOCAL Delivery;
   static constexpr int pid_count = 0x2000;
 
   /// Shows a packet that begins with 0x47 to the hooks and gives it to the handler of its PID.

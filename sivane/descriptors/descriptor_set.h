@@ -46,8 +46,8 @@ class SIVANE_API DescriptorSet {
 #include <sivane/descriptors/descriptor_rows.inc>
 
  private:
-  struct Group;    // the vector of one row
-  struct Storage;  // what is done with groups
+  struct SIVANE_LOCAL Group;    // the vector of one row
+  struct SIVANE_LOCAL Storage;  // what is done with groups
 
   std::unique_ptr<Group> groups_;  // those that hold something, linked in row order
 };

@@ -2,9 +2,12 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-/// Marks what the shared library offers to a host; everything else stays hidden in it.
+/// SIVANE_API marks what the shared library offers to a host; everything else stays hidden in it.
+/// SIVANE_LOCAL hides a part of something that is offered.
 #if defined(__GNUC__)
 #define SIVANE_API __attribute__((visibility("default")))
+#define SIVANE_LOCAL __attribute__((visibility("hidden")))
 #else
 #define SIVANE_API
+#define SIVANE_LOCAL
 #endif
