@@ -6,8 +6,8 @@
 
 #include <string_view>
 
-#include "allocations.h"
 #include "compare.h"
+#include "count.h"
 #include "section_builder.h"
 
 namespace {
@@ -92,9 +92,7 @@ void parse_descriptors(benchmark::State& state) {
     for (int i = 0; i < rounds; ++i) once();
   };
   parse(all, owners);  // the vector of owners has its memory from here on
-  const std::size_t before = sivane::bench::allocations();
-  parse(all, owners);
-  const std::size_t taken = sivane::bench::allocations() - before;
+  const std::size_t taken = sivane::testing::allocations_of([&] { parse(all, owners); });
   sivane::bench::compare(
       state, bytes, "the time of keeping the bytes of each in a block of memory",
       [&] { repeat([&] { parse(all, owners); }); }, [&] { repeat([&] { keep_bytes(all, copies); }); });
