@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The push driver and the pull drivers on one source.
+// The push driver, the pull drivers on one source, and the driver that polls a source for each PID.
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <deque>
 #include <sstream>
 
 #include "recording_host.h"
@@ -12,39 +12,27 @@
 namespace sivane::testing {
 namespace {
 
-using Calls = std::vector<std::string>;
-constexpr int pid = 0x100;
-const Bytes plain = make_packet({.pid = pid});
+constexpr int common_pid = 0x100;
+const Bytes plain = make_packet({.pid = common_pid});
 const Bytes with_field = make_packet(
-    {.pid = pid, .start = true, .adaptation = 7, .payload = Bytes{0} + patterned_section(0x42, 20)});
-const Bytes out_of_sync = [] {
-  Bytes packet = plain;
-  packet[0] = 0x48;
-  return packet;
-}();
-
-std::ptrdiff_t count(Calls const& calls, std::string const& call) {
-  return std::count(calls.begin(), calls.end(), call);
-}
+    {.pid = common_pid, .start = true, .adaptation = 7, .payload = Bytes{0} + patterned_section(0x42, 20)});
+const Bytes out_of_sync = Bytes{0x48} + part(plain, 1, 188);
 
 TEST(Push, ResultsByBuffer) {
   struct Case {
     Bytes buffer;
     int result;
-    Calls calls;
+    char const* calls;
   };
-  const std::vector<Case> cases = {
-      {{}, 0, {}},
-      {Bytes(187, 0x47), -1, {}},
-      {plain + Bytes{0x47}, -1, {}},
-      {plain, 0, {"ts 256 @4"}},
-      {plain + plain, 0, {"ts 256 @4", "ts 256 @192"}},
-      {out_of_sync, 2, {}},
-      {plain + out_of_sync + plain, 2, {"ts 256 @4"}},
-      {plain + with_field, 0, {"ts 256 @4", "ts 256 @192", "field @200"}},
-  };
-  for (Case const& c : cases) {
+  for (Case const& c : {Case{{}, 0, ""},
+                        {Bytes(187, 0x47), -1, ""},
+                        {plain + Bytes{0x47}, -1, ""},
+                        {plain + plain, 0, "ts 256 @4;ts 256 @192;"},
+                        {plain + out_of_sync + plain, 2, "ts 256 @4;"},
+                        {plain + with_field, 0, "ts 256 @4;ts 256 @192;field @200;section 256 66 108;"}}) {
     PushHost host;
+    host.add_psi_handler(common_pid, 0x42);
+    host.on_call = [&](std::string const&) { host.stop(7); };  // without effect here
     EXPECT_EQ(host.push(c.buffer), c.result);
     EXPECT_EQ(host.calls, c.calls);
   }
@@ -53,134 +41,182 @@ TEST(Push, ResultsByBuffer) {
   EXPECT_EQ(host.push_data(nullptr, -188), 0);
 }
 
-TEST(Push, HooksComeInOrderAlsoForTheTenthPacket) {
-  PushHost host;
-  host.add_psi_handler(pid, 0x42);
-  Bytes stream;
-  for (int i = 0; i < 9; ++i) stream = stream + plain;
-  host.push(stream + with_field);
-  const Calls tail(host.calls.end() - 3, host.calls.end());
-  EXPECT_EQ(tail, (Calls{"ts 256 @1696", "field @1704",
-                         "section 256 66 " + std::to_string(patterned_section(0x42, 20)[6])}));
-}
-
-TEST(Push, StopHasNoEffect) {
-  PushHost host;
-  host.on_call = [&](std::string const&) { host.stop(7); };
-  EXPECT_EQ(host.push(plain + plain), 0);
-  EXPECT_EQ(host.push(plain), 0);
-  EXPECT_EQ(host.calls.size(), 3u);
-}
-
-class IstreamHost {
- public:
+struct IstreamHost {
   explicit IstreamHost(Bytes const& bytes) : stream({bytes.begin(), bytes.end()}), host(stream) {}
   std::istringstream stream;
   RecordingHost<DemuxIstream> host;
 };
 
 TEST(Istream, ReadsWholePacketsToTheEnd) {
-  for (const int packets : {0, 1, 3}) {
-    for (const std::size_t rest : {0u, 1u, 100u, 187u}) {
-      Bytes bytes;
-      for (int i = 0; i < packets; ++i) bytes = bytes + plain;
-      IstreamHost source(bytes + Bytes(rest, 0x47));
-      EXPECT_EQ(source.host.start(), 1);
-      EXPECT_EQ(count(source.host.calls, "raw"), packets);
-      EXPECT_EQ(count(source.host.calls, "ts 256"), packets);
-    }
+  for (const std::size_t rest : {0u, 1u, 187u}) {
+    IstreamHost source(plain + with_field + Bytes(rest, 0x47));
+    source.host.add_psi_handler(common_pid, 0x42);
+    EXPECT_EQ(source.host.start(), 1);
+    EXPECT_EQ(source.host.calls, "raw;ts 256;raw;ts 256;field;section 256 66 108;");
   }
 }
 
-TEST(Istream, ShowsEachPacketRawAndThenUnpacked) {
-  IstreamHost source(with_field);
-  source.host.add_psi_handler(pid, 0x42);
-  EXPECT_EQ(source.host.start(), 1);
-  EXPECT_EQ(source.host.calls, (Calls{"raw", "ts 256", "field",
-                                      "section 256 66 " + std::to_string(patterned_section(0x42, 20)[6])}));
-}
-
 TEST(Istream, LostSyncEndsTheRun) {
-  IstreamHost source(plain + plain + out_of_sync + plain);
+  IstreamHost source(plain + out_of_sync + plain);
   EXPECT_EQ(source.host.start(), 2);
   EXPECT_EQ(source.host.exit_code, 1);
-  EXPECT_EQ(source.host.calls, (Calls{"raw", "ts 256", "raw", "ts 256", "raw"}));
+  EXPECT_EQ(source.host.calls, "raw;ts 256;raw;");
 }
 
 TEST(Istream, StopTakesEffectAtTheNextPacket) {
-  IstreamHost source(plain + plain + plain + plain);
-  source.host.on_call = [&](std::string const&) {
-    if (count(source.host.calls, "ts 256") == 2) source.host.stop(7);
-  };
-  EXPECT_EQ(source.host.start(), 7);
-  EXPECT_EQ(count(source.host.calls, "raw"), 2);
-  EXPECT_EQ(source.stream.tellg(), 3 * 188);  // one more was read, and dropped
-  EXPECT_EQ(source.host.start(), 7);
-  EXPECT_EQ(source.stream.tellg(), 4 * 188);
-  EXPECT_EQ(count(source.host.calls, "raw"), 2);
-}
-
-TEST(Istream, StopInTheLastPacketGivesTheResult) {
-  IstreamHost source(plain);
+  IstreamHost source(plain + plain + plain);
   source.host.on_call = [&](std::string const&) { source.host.stop(7); };
   EXPECT_EQ(source.host.start(), 7);
-}
+  EXPECT_EQ(source.stream.tellg(), 2 * 188);  // one more was read, and dropped
+  EXPECT_EQ(source.host.start(), 7);
+  EXPECT_EQ(source.host.calls, "raw;ts 256;");
 
-TEST(Istream, SectionsSpanRuns) {
-  const Bytes section = patterned_section(0x42, 200);
-  IstreamHost source(exact_packet(pid, true, Bytes{0} + part(section, 0, 183)));
-  source.host.add_psi_handler(pid, 0x42);
-  EXPECT_EQ(source.host.start(), 1);
-  const Bytes rest = exact_packet(pid, false, part(section, 183, 200));
-  source.stream.clear();
-  source.stream.str({rest.begin(), rest.end()});
-  EXPECT_EQ(source.host.start(), 1);
-  EXPECT_EQ(source.host.sections, Sections{section});
-}
-
-TEST(Istream, HookExceptionsPassThrough) {
-  IstreamHost source(plain + plain);
-  source.host.on_call = [](std::string const&) { throw 7; };
-  EXPECT_THROW(source.host.start(), int);
-  EXPECT_EQ(source.stream.tellg(), 188);
+  IstreamHost last(plain);
+  last.host.on_call = [&](std::string const&) { last.host.stop(7); };
+  EXPECT_EQ(last.host.start(), 7);
 }
 
 /// A source of the host's own: gives these answers in turn and false behind them.
-class OwnSource : public RecordingHost<Demux> {
- public:
-  struct Answer {
-    bool result;
-    int got;
-  };
-  std::vector<Answer> answers;
+struct OwnSource : RecordingHost<Demux> {
+  std::vector<std::pair<bool, int>> answers;
   std::size_t reads = 0;
 
- private:
   bool read_buf(unsigned char* buffer, int size, int& got) override {
     EXPECT_EQ(size, 188);
-    if (reads == answers.size()) return ++reads, false;
+    if (reads++ == answers.size()) return false;
     std::copy(plain.begin(), plain.end(), buffer);
-    got = answers[reads].got;
-    return answers[reads++].result;
+    got = answers[reads - 1].second;
+    return answers[reads - 1].first;
   }
 };
 
 TEST(Pull, EndsAtAFalseOrAPartialRead) {
   struct Case {
-    std::vector<OwnSource::Answer> answers;
-    std::size_t reads, packets;
+    std::vector<std::pair<bool, int>> answers;
+    std::size_t reads;
+    char const* calls;
   };
-  for (Case const& c : {Case{{}, 1, 0},
-                        {{{true, 188}, {true, 188}}, 3, 2},
-                        {{{true, 188}, {true, 187}}, 2, 1},
-                        {{{true, 189}}, 1, 0},
-                        {{{false, 188}}, 1, 0},
-                        {{{true, 0}}, 1, 0}}) {
+  for (Case const& c : {Case{{}, 1, ""},
+                        {{{true, 188}, {true, 188}}, 3, "raw;ts 256;raw;ts 256;"},
+                        {{{true, 188}, {true, 187}}, 2, "raw;ts 256;"},
+                        {{{true, 189}}, 1, ""},
+                        {{{false, 188}}, 1, ""}}) {
     OwnSource source;
     source.answers = c.answers;
     EXPECT_EQ(source.start(), 1);
     EXPECT_EQ(source.reads, c.reads);
-    EXPECT_EQ(source.calls.size(), 2 * c.packets);
+    EXPECT_EQ(source.calls, c.calls);
+  }
+}
+
+/// Gives each PID its own packets, and ends after a number of passes.
+class PollingHost : public RecordingHost<Demux2> {
+ public:
+  PollingHost(std::initializer_list<int> pids, int passes) : passes_left(passes) {
+    for (const int pid : pids) add_psi_handler(pid, 0x42);
+  }
+
+  std::map<int, std::deque<Bytes>> packets;  // one that is shorter than 188 bytes is a short read
+  int passes_left;
+  std::string reads;  // the PIDs that were read, with "| " behind each pass
+
+ private:
+  bool read_buf(unsigned char*, int, int&) override { return ADD_FAILURE() << "never called", false; }
+  bool read_buf(int pid, unsigned char* buffer, int size, int& got) override {
+    EXPECT_EQ(size, 188);
+    reads += std::to_string(pid) + ' ';
+    auto& source = packets[pid];
+    if (source.empty()) return false;
+    std::copy(source.front().begin(), source.front().end(), buffer);
+    got = static_cast<int>(source.front().size());
+    source.pop_front();
+    return true;
+  }
+  bool end_of_input() override { return passes_left == 0; }
+  void idle() override {
+    reads += "| ";
+    --passes_left;
+  }
+};
+
+const Bytes section = patterned_section(0x42, 200);
+Bytes head(int pid) { return start_packet(pid, part(section, 0, 183)); }
+Bytes rest(int pid) { return exact_packet(pid, false, part(section, 183, 200)); }
+
+TEST(Polling, ReadsEachPidInTurnAndIdlesAfterEachPass) {
+  struct Case {
+    std::initializer_list<int> pids;
+    int passes;
+    char const* reads;
+  };
+  for (Case const& c :
+       {Case{{1}, 0, ""}, {{}, 2, "| | "}, {{0x3000, 20, 10}, 2, "10 20 12288 | 10 20 12288 | "}}) {
+    PollingHost host(c.pids, c.passes);
+    EXPECT_EQ(host.start(), 1);
+    EXPECT_EQ(host.reads, c.reads);
+  }
+}
+
+TEST(Polling, AFailingOrShortSourceIsSkipped) {
+  PollingHost host({10, 20, 30}, 2);
+  host.packets[10] = {head(10)};  // in the second pass it fails, and the length is still that of the first
+  host.packets[20] = {Bytes(187, 0x47)};
+  host.packets[30] = {head(30)};
+  host.start();
+  EXPECT_EQ(host.calls, "raw;ts 10;raw;ts 30;");
+  EXPECT_EQ(host.reads, "10 20 30 | 10 20 30 | ");
+}
+
+TEST(Polling, APacketGoesToThePidItWasReadForAndNamesItsOwn) {
+  PollingHost host({0x100, 0x200}, 2);
+  host.packets[0x200] = {head(0x100), rest(0x300)};
+  host.start();
+  EXPECT_EQ(host.sections, Sections{section});
+  EXPECT_EQ(host.calls, "raw;ts 256;raw;ts 768;field;section 768 66 108;");
+}
+
+TEST(Polling, LostSyncDropsTheTableHandlersSectionsOfEveryPid) {
+  PollingHost host({10, 20}, 4);
+  host.add_psi_handler(10, nullptr, nullptr, 0, 1);
+  host.packets[10] = {head(10), rest(10), head(10), rest(10)};
+  host.packets[20] = {Bytes(188, 0x48)};
+  EXPECT_EQ(host.start(), 1);
+  // The filter keeps its section, and the table handler gets the second one.
+  EXPECT_EQ(host.calls,
+            "raw;ts 10;raw;raw;ts 10;field;filter;raw;ts 10;raw;ts 10;field;section 10 66 108;filter;");
+}
+
+TEST(Polling, StopSetsTheResultAndEndsNothing) {
+  PollingHost host({10}, 3);
+  host.packets[10] = {head(10), rest(10)};
+  host.on_call = [&](std::string const&) { host.stop(7); };
+  EXPECT_EQ(host.start(), 7);
+  EXPECT_EQ(host.sections.size(), 1u);
+  EXPECT_EQ(host.reads, "10 | 10 | 10 | ");
+}
+
+TEST(Polling, APidThatAHookAddsIsReadFromTheNextStart) {
+  for (const int added : {5, 15, 25}) {
+    PollingHost host({10, 20}, 2);
+    host.packets[10] = {head(10)};
+    host.on_call = [&](std::string const&) { host.add_psi_handler(added, 0x42); };
+    host.start();
+    EXPECT_EQ(host.reads, "10 20 | 10 20 | ") << added;
+    host.reads.clear();
+    host.passes_left = 1;
+    host.start();
+    EXPECT_NE((' ' + host.reads).find(' ' + std::to_string(added) + ' '), std::string::npos);
+  }
+}
+
+TEST(Polling, APidThatAHookRemovesIsReadNoMore) {
+  for (auto const& [removed, reads] : std::map<int, char const*>{
+           {10, "10 20 30 | 20 30 | "}, {20, "10 20 30 | 10 30 | "}, {30, "10 20 | 10 20 | "}}) {
+    PollingHost host({10, 20, 30}, 2);
+    host.packets[20] = {head(20)};
+    host.on_call = [&, pid = removed](std::string const&) { host.remove_psi_handler(pid, 0x42); };
+    host.start();
+    EXPECT_EQ(host.reads, reads);
   }
 }
 

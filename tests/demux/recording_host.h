@@ -5,8 +5,8 @@
 #include <sivane/demux/demux.h>
 
 #include <functional>
-#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "heap_block.h"
@@ -15,26 +15,26 @@
 namespace sivane::testing {
 
 using Sections = std::vector<Bytes>;
+using Filtered = std::vector<std::pair<unsigned long, Bytes>>;
 
-/// A host that notes every call of a hook: as text in order, and the sections with their bytes. `on_call` is
-/// what the hook does besides; it gets the text.
+/// Notes every call of a hook, as text with a semicolon behind it, and the sections with their bytes.
 template <class Driver>
 class RecordingHost : public Driver {
  public:
   using Driver::Driver;
   using Driver::stop;
 
-  struct Filtered {
-    unsigned long id;
-    Bytes bytes;
-    bool operator==(Filtered const&) const = default;
-  };
+  std::string calls;
+  Sections sections;                                // of the four-argument hook
+  Filtered filtered;                                // of the three-argument hook
+  std::function<void(std::string const&)> on_call;  // what a hook does besides; it gets the text of its call
+  unsigned char const* base = nullptr;              // where it is set, addresses are noted as offsets from it
 
-  std::vector<std::string> calls;
-  Sections sections;               // of the four-argument hook
-  std::vector<Filtered> filtered;  // of the three-argument hook
-  std::function<void(std::string const&)> on_call;
-  unsigned char const* base = nullptr;  // addresses are noted as offsets from here where it is set
+  void forget() {
+    calls.clear();
+    sections.clear();
+    filtered.clear();
+  }
 
  protected:
   void on_raw_ts_packet(unsigned char const* packet) override { note("raw", packet); }
@@ -45,21 +45,19 @@ class RecordingHost : public Driver {
     note("field", after);
   }
   void on_psi_section(unsigned long id, int size, unsigned char* section) override {
-    filtered.push_back({id, {section, section + size}});
-    note("filter " + std::to_string(id));
+    filtered.emplace_back(id, Bytes(section, section + size));
+    note("filter");
     section[0] = 0xEE;  // every filter has its own copy
   }
   void on_psi_section(int pid, int table_id, int number, unsigned char const* section) override {
     sections.emplace_back(section, section + ((section[1] & 0xF) << 8 | section[2]) + 3);
-    std::ostringstream text;
-    text << "section " << pid << ' ' << table_id << ' ' << number;
-    note(text.str());
+    note("section " + std::to_string(pid) + ' ' + std::to_string(table_id) + ' ' + std::to_string(number));
   }
-  void idle() override { note("idle"); }
 
+ private:
   void note(std::string const& call, unsigned char const* address = nullptr) {
-    calls.push_back(address != nullptr && base != nullptr ? call + " @" + std::to_string(address - base)
-                                                          : call);
+    const bool has_offset = address != nullptr && base != nullptr;
+    calls += call + (has_offset ? " @" + std::to_string(address - base) : "") + ';';
     if (on_call) on_call(call);
   }
 };
@@ -73,13 +71,20 @@ class PushHost : public RecordingHost<DemuxPush> {
     base = block.data();
     return push_data(block.data(), block.size());
   }
-  PSIHandler& handler(int pid, int table_id) { return *pid_handlers.at(pid)->psi_handlers.at(table_id); }
+  void add_filter(int pid, unsigned long id) { add_psi_handler(pid, nullptr, nullptr, 0, id); }
+  PidHandler& of_pid(int pid) { return *pid_handlers.at(pid); }
+  PSIHandler& of_table(int pid, int table_id) { return *of_pid(pid).psi_handlers.at(table_id); }
 };
 
 /// A packet whose payload is exactly these bytes; an adaptation field takes what room is left.
 inline Bytes exact_packet(int pid, bool start, Bytes const& payload) {
   const int adaptation = payload.size() == 184 ? -1 : 183 - static_cast<int>(payload.size());
   return make_packet({.pid = pid, .start = start, .adaptation = adaptation, .payload = payload});
+}
+
+/// A packet that begins with a section; stuffing takes what room is left.
+inline Bytes start_packet(int pid, Bytes const& section) {
+  return make_packet({.pid = pid, .start = true, .payload = Bytes{0} + section});
 }
 
 /// A short-form section of `size` bytes in all, filled with a pattern that depends on its table id.

@@ -1,60 +1,51 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+//
+// What becomes text and comes from text: DVB text fields, hexadecimal digits, dumps.
 #include <gtest/gtest.h>
+#include <sivane/foundation/dump.h>
+#include <sivane/foundation/hex.h>
 #include <sivane/foundation/multilingual_name.h>
 #include <sivane/foundation/text.h>
 
+#include <iomanip>
 #include <sstream>
 
 #include "expect_error.h"
 #include "heap_block.h"
 
-namespace sivane {
+namespace sivane::testing {
 namespace {
 
-using testing::HeapBlock;
-using testing::hex;
-using testing::throws;
-
-std::string string_of(testing::Bytes const& bytes) { return {bytes.begin(), bytes.end()}; }
+std::string string_of(Bytes const& bytes) { return {bytes.begin(), bytes.end()}; }
 
 TEST(Text, DropsOneSelectorByteInFront) {
   struct Case {
-    char const *field, *text;
+    Bytes field, text;
   };
-  for (const Case c : {Case{"00", ""},
-                       {"01 05", ""},
-                       {"01 41", "41"},
-                       {"03 41 42 43", "41 42 43"},
-                       {"03 10 00 02", "00 02"},
-                       {"03 41 05 42", "41 05 42"},
-                       {"02 05 05", "05"},
-                       {"04 41 00 42 00", "41 00 42 00"},
-                       {"02 E0 41", "E0 41"}}) {
-    const HeapBlock field(hex(c.field));
+  for (Case const& c : {Case{{0}, {}},
+                        {hex("01 05"), {}},
+                        {hex("01 41"), hex("41")},
+                        {hex("03 10 00 02"), hex("00 02")},
+                        {hex("03 41 05 42"), hex("41 05 42")},
+                        {hex("02 05 05"), hex("05")},
+                        {Bytes(256, 0xFF), Bytes(255, 0xFF)}}) {
+    const HeapBlock field(c.field);
     int used = -1;
-    EXPECT_EQ(Text(field.data(), used), string_of(hex(c.text))) << c.field;
-    EXPECT_EQ(used, field.size()) << c.field;
+    EXPECT_EQ(Text(field.data(), used), string_of(c.text));
+    EXPECT_EQ(used, field.size());
   }
 }
 
 TEST(Text, KnowsEverySelector) {
+  std::string selectors;
   for (int first = 0; first < 256; ++first) {
-    const bool is_selector = first <= 0x06 || (first >= 0x0F && first <= 0x12) || first == 0x1F;
-    const testing::Bytes data{static_cast<unsigned char>(first), 'A'};
+    const Bytes data{static_cast<unsigned char>(first), 'A'};
     Text text;
     text.parse(2, data.data());
-    EXPECT_EQ(text, string_of(is_selector ? testing::Bytes{'A'} : data)) << first;
+    if (text == "A") selectors += static_cast<char>(first);
   }
-}
-
-TEST(Text, LongestFieldFits) {
-  testing::Bytes bytes(256, 'z');
-  bytes[0] = 255;
-  const HeapBlock field(bytes);
-  int used = 0;
-  EXPECT_EQ(Text(field.data(), used), std::string(255, 'z'));
-  EXPECT_EQ(used, 256);
+  EXPECT_EQ(selectors, string_of(hex("00 01 02 03 04 05 06 0F 10 11 12 1F")));
 }
 
 TEST(Text, AppendsToWhatItHolds) {
@@ -62,40 +53,25 @@ TEST(Text, AppendsToWhatItHolds) {
   int used = 0;
   Text text(field.data(), used);
   text.parse(field.data(), used);
-  text.parse(0, nullptr);
-  text.parse(-1, nullptr);
+  for (const int none : {0, -1}) text.parse(none, nullptr);
   EXPECT_EQ(text, "AA");
-}
-
-TEST(Text, StaysInsideItsReader) {
-  const HeapBlock field(hex("03 41 42"));
-  Reader reader = Reader::within(field.data(), field.size());
-  Text text;
+  Reader reader = Reader::within(field.data(), 2);
   EXPECT_TRUE(throws([&] { text.parse(reader); }, "too little data"));
 }
 
-TEST(LengthPrefixedString, TakesTheBytesAsTheyCome) {
-  for (char const* const field : {"00", "01 05", "03 10 00 41"}) {
-    const HeapBlock block(hex(field));
-    int used = -1;
-    const LengthPrefixedString string(block.data(), 0, used);  // its size is not looked at
-    EXPECT_EQ(string.length, block.size() - 1);
-    EXPECT_EQ(string.value, string_of(hex(field)).substr(1));
-    EXPECT_EQ(used, block.size());
-  }
-}
-
-TEST(LengthPrefixedString, DumpsTwoLinesInTheStreamsBase) {
-  const HeapBlock block(hex("0B 41 42 00 43 44 45 46 47 48 49 50"));
-  int used = 0;
+TEST(LengthPrefixedString, TakesTheBytesAsTheyComeAndDumpsTwoLines) {
+  const HeapBlock block(hex("0B 05 21 00 43 44 45 46 47 48 49 50"));
+  int used = -1;
+  const LengthPrefixedString string(block.data(), 0, used);  // its size is not looked at
+  EXPECT_EQ(string.value, std::string("\5!\0CDEFGHIP", 11));
+  EXPECT_EQ(used, 12);
   std::ostringstream os;
-  os << std::hex;
-  LengthPrefixedString(block.data(), block.size(), used).dump_state("parameter_info", os);
-  EXPECT_EQ(os.str(), "parameter_info_length: b\nparameter_info: AB\n");
+  string.dump_state("parameter_info", os << std::hex);
+  EXPECT_EQ(os.str(), "parameter_info_length: b\nparameter_info: \5!\n");
 }
 
 TEST(MultilingualNameInfo, FitsInItsLoopOrFails) {
-  const testing::Bytes record = hex("65 6E 67 03 05 42 43 FF");
+  const Bytes record = hex("65 6E 67 03 05 42 43 FF");
   for (int size = -1; size <= 8; ++size) {
     const HeapBlock loop({record.begin(), record.begin() + std::max(size, 0)});
     int used = -1;
@@ -105,25 +81,119 @@ TEST(MultilingualNameInfo, FitsInItsLoopOrFails) {
     } else if (size < 7) {
       EXPECT_TRUE(throws(build, error::length_error, "multilingual_name_info_descriptor:2")) << size;
     } else {
-      EXPECT_EQ(build().name,
-                "\x05"
-                "BC");
+      EXPECT_EQ(build().name, string_of(hex("05 42 43")));
       EXPECT_EQ(used, 7);
     }
   }
 }
 
-TEST(MultilingualNameInfo, DumpsThreeLines) {
-  const HeapBlock loop(hex("64 65 75 0A 41 42 43 44 45 46 47 48 49 4A"));
-  int used = 0;
+using Ints = std::vector<int>;
+using Ulongs = std::vector<unsigned long>;
+
+TEST(Bin2str, AppendsLowerCaseGroups) {
+  std::string text = "<";
+  const Bytes bytes{0x0A, 0xFF};
+  bin2str(bytes, text);
+  bin2str(bytes.data(), text, 2);
+  bin2str(Ints{0, -1, 0x12AB}, text);
+  bin2str(Ulongs{0xFFFFFFFF, 1}, text);
+  EXPECT_EQ(text, "<0aff0aff00000000ffffffff000012abffffffff00000001");
+}
+
+/// What str2bin appends; the target holds a 7 before.
+template <class Entry>
+std::vector<Entry> appended(char const* text) {
+  std::vector<Entry> data{7};
+  str2bin(text, data);
+  EXPECT_EQ(data.front(), Entry{7});
+  return {data.begin() + 1, data.end()};
+}
+
+TEST(Str2bin, AppendsWholeGroupsOfEitherCase) {
+  EXPECT_EQ(appended<unsigned char>("0AfF"), (Bytes{0x0A, 0xFF}));
+  EXPECT_EQ(appended<int>("ffffffff000012AB"), (Ints{-1, 0x12AB}));
+  EXPECT_EQ(appended<unsigned long>("ffffffff80000000"), (Ulongs{0xFFFFFFFF, 0x80000000}));
+}
+
+TEST(Str2bin, LeavesTheTargetAloneForPartialGroups) {
+  for (char const* const text : {"", "a", "abc", "0123456", "012345678"}) {
+    EXPECT_EQ(appended<int>(text), Ints());
+    EXPECT_EQ(appended<unsigned long>(text), Ulongs());
+  }
+  EXPECT_EQ(appended<unsigned char>("abc"), Bytes());
+  unsigned char room = 7;
+  str2bin("abc", &room, 1);
+  str2bin("01", &room, -1);
+  EXPECT_EQ(room, 7);
+}
+
+TEST(Str2bin, StopsAtTheRoomOrTheTextsEnd) {
+  for (int room = 0; room <= 7; ++room) {
+    const HeapBlock block(Bytes(static_cast<std::size_t>(room), 0xEE));
+    str2bin("0102030405", block.data(), room);
+    for (int i = 0; i < room; ++i) EXPECT_EQ(block.data()[i], i < 5 ? i + 1 : 0xEE) << room;
+  }
+}
+
+TEST(Str2bin, AGroupStopsAtItsFirstBadDigit) {
+  EXPECT_EQ(appended<unsigned char>("1gg1-1"), (Bytes{1, 0, 0}));
+  EXPECT_EQ(appended<int>("12x\xFF\x80.34"), Ints{0x12});
+}
+
+TEST(DumpBlock, WritesSixteenBytesALine) {
+  const std::string full = "41 41 41 41 41 41 41 41 41 41 41 41 41 41 41 41  : AAAAAAAAAAAAAAAA\n";
+  for (auto const& [bytes, text] : std::vector<std::pair<Bytes, std::string>>{
+           {{}, ""},
+           {hex("41 5A 61 7A 30 40 5B 60 7B C4 00 09 FF 4D 6D 20"),
+            "41 5a 61 7a 30 40 5b 60 7b c4  0  9 ff 4d 6d 20  : AZaz.........Mm.\n"},
+           {Bytes(32, 'A'), full + full},
+           {Bytes(17, 'A'), full + "41 " + std::string(45, ' ') + " : A\n"}}) {
+    const HeapBlock block(bytes);
+    std::ostringstream os;
+    dump_block(os, block.data(), block.size());
+    EXPECT_EQ(os.str(), text);
+  }
+}
+
+TEST(DumpBlock, TakesFillAndCaseFromTheStreamAndLeavesItHexadecimal) {
   std::ostringstream os;
-  os << std::hex;
-  MultilingualNameInfo(loop.data(), loop.size(), used)._dump_state(os);
-  EXPECT_EQ(os.str(),
-            "MultilingualNameInfo::ISO_639_language_code: deu\n"
-            "MultilingualNameInfo::text_len: a\n"
-            "MultilingualNameInfo::name: ABCDEFGHIJ\n");
+  os << std::uppercase << std::setfill('0');
+  dump_block(os, hex("0A FB").data(), 2);
+  os << 255;
+  EXPECT_EQ(os.str(), "0A FB " + std::string(42, ' ') + " : ..\nFF");
+}
+
+TEST(DumpLine, WritesLabelAndValueInTheStreamsBase) {
+  std::ostringstream os;
+  os << std::hex << std::setfill('0');
+  dump::line(os, "int ", 255);
+  dump::line(os, "uint ", 0xFFFFFFFFu);
+  dump::line(os, "wide ", 10, 4);
+  dump::line(os, "wide ", 0x123ul, 2);
+  dump::line(os, "char ", static_cast<unsigned char>('B'));
+  dump::line(os, "string ", std::string("ab\0cd", 5));
+  dump::line(os, "double ", 1.5);
+  EXPECT_EQ(os.str(), "int ff\nuint ffffffff\nwide 000a\nwide 123\nchar B\nstring ab\ndouble 1.5\n");
+}
+
+TEST(DumpLine, FlushesEveryLine) {
+  struct CountingBuffer : std::stringbuf {
+    int flushes = 0;
+    int sync() override { return ++flushes, 0; }
+  } buffer;
+  std::ostream os(&buffer);
+  dump::line(os, "a ", 1);
+  dump_block(os, hex("00").data(), 1);
+  EXPECT_EQ(buffer.flushes, 2);
+}
+
+TEST(DumpBlockUnderHeading, MayBeLeftOutForNoBytes) {
+  std::ostringstream os;
+  dump::block_if_any(os, "private data:", {});
+  dump::block(os, "data:", {});
+  dump::block_if_any(os, "private data:", {0x41});
+  EXPECT_EQ(os.str(), "data:\nprivate data:\n41 " + std::string(45, ' ') + " : A\n");
 }
 
 }  // namespace
-}  // namespace sivane
+}  // namespace sivane::testing

@@ -24,8 +24,8 @@ Bytes slice(Bytes const& bytes, std::size_t from, std::size_t count) {
 }  // namespace
 
 Bytes make_packet(Packet const& p) {
-  Bytes bytes{0x47, low_byte((p.error ? 0x80 : 0) | (p.start ? 0x40 : 0) | p.pid >> 8), low_byte(p.pid),
-              low_byte(p.scrambling << 6 | (p.adaptation >= 0 ? 0x30 : 0x10) | p.continuity)};
+  Bytes bytes{0x47, low_byte((p.start ? 0x40 : 0) | p.pid >> 8), low_byte(p.pid),
+              low_byte((p.adaptation >= 0 ? 0x30 : 0x10) | p.continuity)};
   if (p.adaptation >= 0) {
     bytes.push_back(low_byte(p.adaptation));
     bytes.resize(std::min(packet_size, bytes.size() + static_cast<std::size_t>(p.adaptation)), 0x00);

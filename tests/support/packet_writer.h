@@ -15,8 +15,6 @@ struct Packet {
   int continuity = 0;   ///< 4 bits
   int adaptation = -1;  ///< adaptation_field_length, or -1 for no adaptation field
   Bytes payload = {};   ///< behind header and adaptation field, the pointer_field included
-  bool error = false;   ///< transport_error_indicator
-  int scrambling = 0;   ///< transport_scrambling_control
 };
 
 /// 188 bytes. Throws if the payload does not fit.
