@@ -32,12 +32,14 @@ std::string zero_x(long number) {
   return text.data();
 }
 
-/// The present local time to the second, written as records write it.
+/// The present local time to the second, written as records write it and by their clock: that of std::time
+/// may be a tick behind.
 std::string present_second() {
-  const std::time_t now = std::time(nullptr);
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
   std::array<char, 32> text{};
   tm local{};
-  std::strftime(text.data(), text.size(), "%Y.%m.%d,%H:%M:%S", localtime_r(&now, &local));
+  std::strftime(text.data(), text.size(), "%Y.%m.%d,%H:%M:%S", localtime_r(&now.tv_sec, &local));
   return text.data();
 }
 
