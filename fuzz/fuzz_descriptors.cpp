@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <memory>
 #include <sstream>
+#include <vector>
 
 #include "input.h"
 
@@ -35,12 +35,11 @@ void exercise(sivane::DescriptorSet const& set) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-  const auto block =
-      std::make_unique<unsigned char[]>(size);  // of its own size: the sanitizer sees each byte behind
-  std::copy_n(data, size, block.get());
-  unsigned char const* const end = block.get() + size;
+  // A block of its own size: the address sanitizer sees each byte behind it.
+  const std::vector<unsigned char> block(data, data + size);
+  unsigned char const* const end = block.data() + size;
   sivane::DescriptorSet set;
-  for (unsigned char const* at = block.get(); end - at >= 2;
+  for (unsigned char const* at = block.data(); end - at >= 2;
        at += std::min<std::ptrdiff_t>(2 + at[1], end - at)) {
     try {
       set.ParseDescriptor({at, end});
