@@ -7,41 +7,24 @@
 #include <sivane/descriptors/descriptor_set.h>
 
 #include <cstddef>
-#include <sstream>
 #include <string>
+#include <vector>
 
 namespace sivane::testing {
-
-template <auto getter>
-std::size_t count(DescriptorSet const& set) {
-  return (set.*getter)().size();
-}
-
-template <auto getter>
-std::string dump(DescriptorSet const& set) {
-  std::ostringstream os;
-  for (auto const& descriptor : (set.*getter)()) descriptor.dump_state(os);
-  return os.str();
-}
 
 struct Row {
   int tag;  // for the two rows without a class, one of theirs
   char const* getter;
   std::size_t (*count)(DescriptorSet const&);
   std::string (*dump)(DescriptorSet const&);
+  /// A descriptor as the case files write it: the set's first one, and one made from a bare pointer.
+  std::string (*first)(DescriptorSet const&, unsigned char const* bytes);
+  std::string (*bare)(unsigned char const* bytes);
 };
 
-namespace row_tag {
-constexpr int user_private = 0xFE;
-constexpr int other = 0x15;
-}  // namespace row_tag
-
-constexpr Row row_list[] = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  {tag, #getter, &count<&DescriptorSet::getter>, &dump<&DescriptorSet::getter>},
-#define SIVANE_GENERAL_ROW(kind, getter, element) \
-  {row_tag::kind, #getter, &count<&DescriptorSet::getter>, &dump<&DescriptorSet::getter>},
-#include <sivane/descriptors/descriptor_rows.inc>
-};
+std::vector<Row> const& row_list();
+/// The row that a tag is filed in.
+Row const& row_of(int tag);
+bool has_class(int tag);
 
 }  // namespace sivane::testing

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "case_file.h"
+
+#include <algorithm>
+#include <fstream>
+#include <stdexcept>
+
+namespace sivane::testing {
+namespace {
+
+std::string path_of(std::string const& file) { return SIVANE_DESCRIPTOR_CASES "/" + file; }
+
+}  // namespace
+
+std::vector<Block> read_blocks(std::string const& file) {
+  std::ifstream in(path_of(file));
+  if (!in) throw std::runtime_error("no file " + path_of(file));
+  std::vector<Block> blocks;
+  std::string text;
+  bool inside = false;
+  for (int number = 1; std::getline(in, text); ++number) {
+    if (!text.empty() && text[0] == '#') continue;
+    if (text.empty()) {
+      inside = false;
+    } else if (inside) {
+      blocks.back().lines.push_back({text, number});
+    } else {
+      blocks.push_back({text, {}});
+      inside = true;
+    }
+  }
+  return blocks;
+}
+
+std::vector<Case> read_cases(std::string const& file) {
+  const std::string key = "hex    ";
+  std::vector<Case> cases;
+  for (Block const& block : read_blocks(file)) {
+    const std::size_t before = cases.size();
+    for (auto const& [text, number] : block.lines) {
+      if (text.starts_with(key)) {
+        const std::size_t bar = std::min(text.find('|'), text.size());
+        const std::string behind = bar < text.size() ? text.substr(bar + 1) : "";
+        cases.push_back(
+            {block.title, text.substr(key.size(), bar - key.size()), behind, "", path_of(file), number});
+      } else if (cases.size() > before) {
+        cases.back().text += text + '\n';
+      } else {
+        throw std::runtime_error(path_of(file) + ": a block without bytes: " + block.title);
+      }
+    }
+  }
+  return cases;
+}
+
+}  // namespace sivane::testing
