@@ -217,7 +217,7 @@ class SIVANE_API Demux::PidHandler {
  private:
   friend class Demux;
   void start_section(TSHeader const& header, unsigned char const* data, int size);
-  void give(TSHeader const& header, bool start, unsigned char const* data, int size);
+  void continue_section(TSHeader const& header, unsigned char const* data, int size);
   void give_to_filters(TSHeader const& header, bool start, unsigned char const* data, int size);
 
   bool removed_ = false;

@@ -111,12 +111,12 @@ void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int s
   log_write(3, "Demux::PidHandler::parse()");
   if (size < 1) return;
   if (header.payload_unit_start_indicator != 1) {
-    give(header, false, data, size);
+    continue_section(header, data, size);
     return;
   }
   const int pointer = data[0];
   if (is_pes_start(data, size) || pointer > size - 1) return;
-  if (pointer > 0) give(header, false, data + 1, pointer);
+  if (pointer > 0) continue_section(header, data + 1, pointer);
   start_section(header, data + 1 + pointer, size - 1 - pointer);
 }
 
@@ -129,9 +129,9 @@ void Demux::PidHandler::start_section(TSHeader const& header, unsigned char cons
   give_to_filters(header, true, data, size);
 }
 
-void Demux::PidHandler::give(TSHeader const& header, bool start, unsigned char const* data, int size) {
-  if (current != nullptr) current->parse(header, start, data, size);
-  give_to_filters(header, start, data, size);
+void Demux::PidHandler::continue_section(TSHeader const& header, unsigned char const* data, int size) {
+  if (current != nullptr) current->parse(header, false, data, size);
+  give_to_filters(header, false, data, size);
 }
 
 void Demux::PidHandler::give_to_filters(TSHeader const& header, bool start, unsigned char const* data,
