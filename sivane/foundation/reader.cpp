@@ -47,13 +47,11 @@ double Reader::bcd(std::initializer_list<double> weights) {
   return value;
 }
 
-std::string Reader::string(int size) {
-  return {reinterpret_cast<char const*>(raw(size)), static_cast<std::size_t>(size)};
-}
+std::string Reader::string(int size) { return {reinterpret_cast<char const*>(raw(size)), count_of(size)}; }
 
 std::vector<unsigned char> Reader::bytes(int size) {
   unsigned char const* const first = raw(size);
-  return {first, first + size};
+  return {first, first + count_of(size)};
 }
 
 void Reader::code(char (&three_letters)[4]) {

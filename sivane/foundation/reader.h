@@ -46,7 +46,7 @@ struct SIVANE_API DescriptorBytes {
 /// A reader has two ends. Its own bytes stop at its end, which is what `more`, `left` and `rest` go by.
 /// Single fields may run over it, since many length fields of broadcasts are wrong, but never over its limit,
 /// which is the end of the section: such a read throws the failure that the reader was made with. Sizes are
-/// in bytes.
+/// in bytes; one below 0 counts as none.
 class SIVANE_API Reader {
  public:
   /// `size` bytes at `first` are the reader's own; `limit` bytes from `first` on may be read.
@@ -117,9 +117,8 @@ class SIVANE_API Reader {
   }
 
  private:
-  static constexpr std::size_t bits_of(int bytes) {
-    return bytes > 0 ? static_cast<std::size_t>(bytes) * 8 : 0;
-  }
+  static constexpr std::size_t count_of(int bytes) { return bytes > 0 ? static_cast<std::size_t>(bytes) : 0; }
+  static constexpr std::size_t bits_of(int bytes) { return count_of(bytes) * 8; }
   unsigned int number(int count);
   std::size_t take(std::size_t count) {
     if (count > limit_ - position_) raise(overrun_);

@@ -90,6 +90,8 @@ TEST(Reader, ReadsEveryForm) {
   EXPECT_EQ(reader.string(3), std::string("A\0B", 3));
   EXPECT_EQ(reader.bcd({100, 10, 1, 0.5}), 100 + 20 + 3 + 7.5);
   EXPECT_EQ(reader.prefixed_string(), "CD");
+  EXPECT_EQ(reader.string(-1), "");
+  EXPECT_TRUE(reader.bytes(-1).empty());
   EXPECT_FALSE(reader.more() || reader.past_end());
   EXPECT_EQ(Reader::within(block.data(), -1).left(), 0);
 }
