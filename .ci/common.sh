@@ -21,6 +21,9 @@ configure() {
   cmake --preset release -B "$1" --install-prefix /usr "${@:2}" > /dev/null
 }
 
+# The build with g++ that several checks share.
+configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON; }
+
 # install_library DIRECTORY PREFIX: builds the library alone and installs what a host needs of it into an empty
 # prefix.
 install_library() {
