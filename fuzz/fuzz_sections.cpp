@@ -20,7 +20,10 @@ using sivane::testing::Bytes;
 
 /// A new class is a line behind the others, so that the inputs at hand keep their meaning.
 constexpr std::array exercises = {
-    &exercise_table<sivane::Pat>,
+    &exercise_table<sivane::Pat>, &exercise_table<sivane::Cat>,   &exercise_table<sivane::Pmt>,
+    &exercise_table<sivane::Nit>, &exercise_table<sivane::Bat>,   &exercise_table<sivane::Sdt>,
+    &exercise_table<sivane::Eit>, &exercise_table<sivane::Tdt>,   &exercise_table<sivane::Tot>,
+    &exercise_table<sivane::Rst>, &exercise_table<sivane::DsmCC>, &exercise_table<sivane::Ait>,
 };
 
 void fit_length(Bytes& section) {

@@ -16,9 +16,21 @@
 // From packets to sections: derive from one of the drivers.
 #include <sivane/demux/demux.h>
 
-// Descriptors, filed by tag as the tables hold them; brings every descriptor class.
+// Descriptors, filed by tag as the tables hold them; the two sets bring every descriptor class.
+#include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
 // From sections to tables.
+#include <sivane/tables/ait.h>
+#include <sivane/tables/bat.h>
+#include <sivane/tables/cat.h>
+#include <sivane/tables/dsm_cc.h>
+#include <sivane/tables/eit.h>
+#include <sivane/tables/nit.h>
 #include <sivane/tables/pat.h>
+#include <sivane/tables/pmt.h>
+#include <sivane/tables/rst.h>
+#include <sivane/tables/sdt.h>
 #include <sivane/tables/section.h>
+#include <sivane/tables/tdt.h>
+#include <sivane/tables/tot.h>

@@ -25,7 +25,7 @@ std::unique_ptr<Command> make_command(Options const& options) {
 
 bool read(std::istream& in, Options const& options, Command& command) {
   if (options.input == Options::Input::sections) return read_section_list(in, command);
-  return read_ts(in, options.handles.empty() ? usual_handles() : options.handles, command);
+  return read_ts(in, options.handles, command);
 }
 
 bool open_and_read(Options const& options, Command& command) {

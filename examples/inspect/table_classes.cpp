@@ -5,6 +5,7 @@
 #include <sivane/sivane.h>
 
 #include <algorithm>
+#include <numeric>
 
 namespace inspect {
 
@@ -18,12 +19,23 @@ void dump(std::span<unsigned char const> section, std::ostream& out) {
   table.dump_state(out);
 }
 
+std::vector<int> event_table_ids() {
+  std::vector<int> ids(0x6F - 0x4E + 1);
+  std::iota(ids.begin(), ids.end(), 0x4E);
+  return ids;
+}
+
 }  // namespace
 
 std::span<TableClass const> table_classes() {
   static std::vector<TableClass> const rows = {
       // name, table ids, usual PID, operations
-      {"Pat", {0x00}, 0x0000, dump<sivane::Pat>},
+      {"Pat", {0x00}, 0x0000, dump<sivane::Pat>},       {"Cat", {0x01}, 0x0001, dump<sivane::Cat>},
+      {"Pmt", {0x02}, {}, dump<sivane::Pmt>},           {"DsmCC", {0x3B, 0x3C}, {}, dump<sivane::DsmCC>},
+      {"Nit", {0x40, 0x41}, 0x0010, dump<sivane::Nit>}, {"Sdt", {0x42, 0x46}, 0x0011, dump<sivane::Sdt>},
+      {"Bat", {0x4A}, 0x0011, dump<sivane::Bat>},       {"Eit", event_table_ids(), 0x0012, dump<sivane::Eit>},
+      {"Tdt", {0x70}, 0x0014, dump<sivane::Tdt>},       {"Rst", {0x71}, 0x0013, dump<sivane::Rst>},
+      {"Tot", {0x73}, 0x0014, dump<sivane::Tot>},       {"Ait", {0x74}, {}, dump<sivane::Ait>},
   };
   return rows;
 }

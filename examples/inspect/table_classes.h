@@ -3,6 +3,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,8 @@ namespace inspect {
 /// One class of the library that reads sections.
 struct TableClass {
   std::string_view name;
-  std::vector<int> table_ids;  ///< those that it reads
-  int usual_pid;               ///< where they are found in every stream
+  std::vector<int> table_ids;    ///< those that it reads
+  std::optional<int> usual_pid;  ///< where they are found in every stream; none: where other tables say
   /// Parses the section into a fresh object and dumps that. Throws `sivane::error`.
   void (*dump)(std::span<unsigned char const> section, std::ostream& out);
 };

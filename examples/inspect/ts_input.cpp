@@ -6,7 +6,7 @@
 
 #include <istream>
 
-#include "table_classes.h"
+#include "followed_tables.h"
 
 namespace inspect {
 
@@ -16,8 +16,11 @@ constexpr int block_size = 1024 * sivane::ts_packet_size;
 
 class Host final : public sivane::DemuxPush {
  public:
-  Host(std::vector<Handle> const& handles, Command& command) : command_(command) {
-    for (Handle const& handle : handles) add_psi_handler(handle.pid, handle.table_id);
+  Host(std::vector<Handle> const& handles, Command& command)
+      : command_(command), follows_tables_(handles.empty()) {
+    for (Handle const& handle : follows_tables_ ? usual_handles() : handles) {
+      add_psi_handler(handle.pid, handle.table_id);
+    }
   }
 
   /// Where the packet begins that comes next.
@@ -29,11 +32,15 @@ class Host final : public sivane::DemuxPush {
   void on_ts_packet(TSHeader const&, unsigned char const*) override { ++packets_; }
 
   void on_psi_section(int pid, int, int, unsigned char const* section) override {
-    command_.take({.bytes = {section, claimed_size(section)}, .pid = pid});
+    std::span<unsigned char const> const bytes(section, claimed_size(section));
+    command_.take({.bytes = bytes, .pid = pid});
+    if (!follows_tables_) return;
+    for (Handle const& handle : handles_named_by(bytes)) add_psi_handler(handle.pid, handle.table_id);
   }
 
  private:
   Command& command_;
+  bool follows_tables_;
   long long packets_ = 0;
 };
 
@@ -50,14 +57,6 @@ bool push_block(Host& host, std::vector<unsigned char> const& block, int size) {
 }
 
 }  // namespace
-
-std::vector<Handle> usual_handles() {
-  std::vector<Handle> handles;
-  for (TableClass const& row : table_classes()) {
-    for (int const table_id : row.table_ids) handles.push_back({row.usual_pid, table_id});
-  }
-  return handles;
-}
 
 bool read_ts(std::istream& in, std::vector<Handle> const& handles, Command& command) {
   Host host(handles, command);

@@ -15,11 +15,9 @@ struct Handle {
   int table_id;
 };
 
-/// What is asked for unless the user names other pairs: every table that has a class, on its usual PID.
-std::vector<Handle> usual_handles();
-
-/// Gives the sections of a stream of 188-byte packets to the command. False, with the reason reported, where
-/// the stream cannot be read on or a packet is out of sync.
+/// Gives the sections of a stream of 188-byte packets to the command: those of `handles`, or, where it is
+/// empty, of every table that has a class. False, with the reason reported, where the stream cannot be read
+/// on or a packet is out of sync.
 bool read_ts(std::istream& in, std::vector<Handle> const& handles, Command& command);
 
 }  // namespace inspect

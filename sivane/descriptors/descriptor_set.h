@@ -4,6 +4,7 @@
 
 #include <sivane/descriptors/cell.h>
 #include <sivane/descriptors/descriptor.h>
+#include <sivane/descriptors/descriptor_groups.h>
 #include <sivane/descriptors/event.h>
 #include <sivane/descriptors/mosiac.h>
 #include <sivane/descriptors/mpeg_systems.h>
@@ -13,7 +14,6 @@
 #include <sivane/foundation/export.h>
 #include <sivane/foundation/reader.h>
 
-#include <memory>
 #include <vector>
 
 namespace sivane {
@@ -25,13 +25,6 @@ namespace sivane {
 /// is paid for: an empty set is one null pointer. A class that owns descriptors derives from this one.
 class SIVANE_API DescriptorSet {
  public:
-  DescriptorSet() noexcept;
-  DescriptorSet(DescriptorSet const& other);
-  DescriptorSet(DescriptorSet&& other) noexcept;
-  DescriptorSet& operator=(DescriptorSet const& other);
-  DescriptorSet& operator=(DescriptorSet&& other) noexcept;
-  ~DescriptorSet();
-
   /// Builds the class of the descriptor's tag and appends it to its vector. A descriptor that throws is not
   /// filed; those before it stay.
   void ParseDescriptor(DescriptorBytes descriptor);
@@ -39,6 +32,18 @@ class SIVANE_API DescriptorSet {
   /// one may run over the `size` bytes; true if it does not. Throws `overrun` where one would leave the
   /// section.
   bool parse_descriptors(Reader& reader, int size, Failure overrun);
+  /// Empties every vector.
+  void clear_descriptors() { groups_ = {}; }
+  /// Empties the vector of `get_general_descriptors`.
+  void clear_general_descriptors();
+
+  /// Adds an element "descriptors" with an element for each descriptor to the owner's element. Always true:
+  /// what the document refuses is left out.
+  bool _save_descriptors(void* document, void* element) const;
+  /// Files what the "descriptors" element of the owner's element holds; elements of unknown names are
+  /// skipped. Throws `error` where it is missing, and what the descriptors throw.
+  bool _parse_descriptors(void* node);
+
   // The vectors: `get_CA_descriptors()`, `get_short_event_descriptors()` and so on; empty where none was
   // filed. A reference is good until the set changes.
 #define SIVANE_ROW(tag, Class, getter, element, tag_text) std::vector<Class> const& getter() const;
@@ -46,10 +51,7 @@ class SIVANE_API DescriptorSet {
 #include <sivane/descriptors/descriptor_rows.inc>
 
  private:
-  struct SIVANE_LOCAL Group;    // the vector of one row
-  struct SIVANE_LOCAL Storage;  // what is done with groups
-
-  std::unique_ptr<Group> groups_;  // those that hold something, linked in row order
+  DescriptorGroups groups_;
 };
 
 }  // namespace sivane

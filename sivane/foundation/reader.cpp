@@ -64,6 +64,10 @@ Reader Reader::sub(int size, Failure overrun) {
   return {first, size, size + static_cast<int>((limit_ - position_) / 8), overrun};
 }
 
+Reader Reader::loop(int size, Failure overrun) const {
+  return {at(position_), size, static_cast<int>((limit_ - position_) / 8), overrun};
+}
+
 DescriptorBytes Reader::descriptor() {
   unsigned char const* const first = raw(2);
   raw(first[1]);

@@ -90,6 +90,13 @@ class SIVANE_API Reader {
   Reader sub(int size, Failure overrun);
   /// The descriptor that starts here, and steps over it; throws the reader's failure if it passes the limit.
   DescriptorBytes descriptor();
+  /// A reader of a loop of the next `size` bytes with the same limit; this one stays where it is. The loop
+  /// may claim more than the limit holds: `overrun` is thrown by the read that gets there.
+  Reader loop(int size, Failure overrun) const;
+  /// Calls `take` with each descriptor that starts within the next `size` bytes, and steps over those bytes.
+  /// The last descriptor may run over them; true if it does not. Throws `overrun` where one passes the limit.
+  template <class Take>
+  bool each_descriptor(int size, Failure overrun, Take take);
 
   /// Records of their own sizes up to the end; throws the reader's failure unless the last one ends there.
   template <class Record>
@@ -158,6 +165,14 @@ std::vector<Number> Reader::numbers(int width, Failure failure) {
   found.reserve(static_cast<std::size_t>(left() / (width / 8)));
   while (more()) found.push_back(static_cast<Number>(number(width)));
   return found;
+}
+
+template <class Take>
+bool Reader::each_descriptor(int size, Failure overrun, Take take) {
+  Reader descriptors = loop(size, overrun);
+  while (descriptors.more()) take(descriptors.descriptor());
+  raw(size);
+  return !descriptors.past_end();
 }
 
 /// Builds a record from a bare pointer as its public constructors do; `consumed` is the bytes that it took.

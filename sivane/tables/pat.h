@@ -13,6 +13,7 @@ namespace sivane {
 
 /// Program association table: which PID carries the PMT of which program (ISO/IEC 13818-1, 2.4.4.3).
 /// `context_id` is the transport_stream_id. Accepts table id 0x00.
+/// Throws `length_error` "Pat parse error" unless section_length is 9 + 4n.
 class SIVANE_API Pat final : public PsiTableBase {
  public:
   /// One program. `program_number` 0 stands like any other; its PID is that of the NIT.
@@ -26,15 +27,7 @@ class SIVANE_API Pat final : public PsiTableBase {
     int program_map_pid = 0;  ///< 13 bits
   };
 
-  using PsiTableBase::Parse;
-  char const* get_table_id_text() const override;
-  void _reset() override;
-  void _dump_state(std::ostream& os) const override;
-  void _parse(void* node) override;
-  /// Throws `length_error` "Pat parse error" unless section_length is 9 + 4n.
-  void _parse(unsigned char const* body) override;
-  bool _save_section(void* document, void* element) const override;
-  bool is_valid_tablesid() const override;
+  SIVANE_TABLE
 
   /// `index` must be below `get_program_info_size`.
   program_info const& get_program_info(int index) const;

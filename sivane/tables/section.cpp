@@ -42,9 +42,9 @@ void check_crc(unsigned char const* section) {
 }
 
 /// Of `size` bytes from `body` to the end of the section the last `trailer` are no part of the body.
-Reader make_body_reader(unsigned char const* body, int size, int trailer) {
+Reader make_body_reader(unsigned char const* body, int size, int trailer, Failure overrun) {
   if (size < 0) raise(too_little_data);
-  return {body, size - trailer, size};
+  return {body, size - trailer, size, overrun};
 }
 
 }  // namespace
@@ -82,8 +82,8 @@ void PsiTableBase::read_header(unsigned char const* section) {
   crc32 = Reader::within(section + size - crc_size, crc_size).u32();
 }
 
-Reader PsiTableBase::body_reader(unsigned char const* body) const {
-  return make_body_reader(body, section_length + short_header_size - long_header_size, crc_size);
+Reader PsiTableBase::body_reader(unsigned char const* body, Failure overrun) const {
+  return make_body_reader(body, section_length + short_header_size - long_header_size, crc_size, overrun);
 }
 
 void PsiTableBase::reset() {
@@ -126,8 +126,8 @@ void PsiBase::Parse(unsigned char const* section, std::size_t available) {
   Parse(section);
 }
 
-Reader PsiBase::body_reader(unsigned char const* body) const {
-  return make_body_reader(body, section_length, 0);
+Reader PsiBase::body_reader(unsigned char const* body, Failure overrun) const {
+  return make_body_reader(body, section_length, 0, overrun);
 }
 
 bool PsiBase::is_syntax_indicator_valid(int) const { return true; }

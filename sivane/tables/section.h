@@ -69,12 +69,26 @@ class SIVANE_API PsiTableBase {
   PsiTableBase& operator=(PsiTableBase&&) = default;
   ~PsiTableBase() = default;
 
-  /// A reader of a long-form body without its CRC; nothing behind the section can be read.
-  Reader body_reader(unsigned char const* body) const;
+  /// A reader of a long-form body without its CRC; `overrun` is thrown by a read that would pass the section.
+  Reader body_reader(unsigned char const* body, Failure overrun = too_little_data) const;
 
  private:
   void read_header(unsigned char const* section);
 };
+
+/// Declares what every table class has: the operations of its frame. `_parse` of a body throws what the
+/// class's comment says; `_reset` empties the class's own vectors, where the comment says nothing else.
+#define SIVANE_TABLE                                                \
+  char const* get_table_id_text() const override;                   \
+  void _reset() override;                                           \
+  void _dump_state(std::ostream& os) const override;                \
+  void _parse(void* node) override;                                 \
+  void _parse(unsigned char const* body) override;                  \
+  bool _save_section(void* document, void* element) const override; \
+  bool is_valid_tablesid() const override;
+
+/// What a table throws where a loop does not end at its length, or would leave the section.
+inline constexpr Failure start_end_mismatch{error::no_errorcode, "descriptor start end mismatch"};
 
 /// The frame of short-form sections: three header bytes and no CRC of its own (ETSI EN 300 468, 5.2.5
 /// to 5.2.7).
@@ -111,8 +125,8 @@ class SIVANE_API PsiBase {
   PsiBase& operator=(PsiBase&&) = default;
   ~PsiBase() = default;
 
-  /// A reader of a short-form body.
-  Reader body_reader(unsigned char const* body) const;
+  /// A reader of a short-form body; `overrun` is thrown by a read that would pass the section.
+  Reader body_reader(unsigned char const* body, Failure overrun = too_little_data) const;
 };
 
 }  // namespace sivane

@@ -42,7 +42,7 @@ TEST(InspectSections, ListsHandledTablesOfAStreamInTheOrderOfDelivery) {
     std::string out;
   };
   Case const cases[] = {
-      {"", pat_line},
+      {"", eit_line + pat_line},
       {"--handle 0x12:0x4E", eit_line},  // and not the usual ones
       {"--handle 022:78 --handle 8190:0x70 --handle 0:0 -H 0:0", eit_line + time_line + pat_line},
       {"--handle 0x12:0x4F", ""},

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/application.h>
+#include <sivane/descriptors/descriptor_groups.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+#include <iosfwd>
+#include <vector>
+
+namespace sivane {
+
+/// The descriptors of an AIT, filed by the tags of their own space: one vector for each class of 0x00 to
+/// 0x0D, one for 0x0E to 0x7F and one for 0x80 to 0xFF. In all else like `DescriptorSet`; the rows stand in
+/// ait_descriptor_rows.inc.
+class SIVANE_API AitDescriptorSet {
+ public:
+  /// As `DescriptorSet::ParseDescriptor`.
+  void ParseDescriptorAit(DescriptorBytes descriptor);
+  /// As `DescriptorSet::parse_descriptors`.
+  bool parse_descriptors(Reader& reader, int size, Failure overrun);
+  /// Empties the vector of `get_general_descriptors`.
+  void clear_general_descriptors();
+  /// All of them, vector by vector.
+  void dump_descriptors(std::ostream& os) const;
+
+  /// As `DescriptorSet::_save_descriptors`.
+  bool _save_descriptors(void* document, void* element) const;
+  /// As `DescriptorSet::_parse_descriptors`.
+  bool _parse_descriptors(void* node);
+
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) std::vector<Class> const& getter() const;
+#define SIVANE_GENERAL_ROW(kind, getter, element) std::vector<DescriptorGeneral> const& getter() const;
+#include <sivane/descriptors/ait_descriptor_rows.inc>
+
+ private:
+  DescriptorGroups groups_;
+};
+
+}  // namespace sivane

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/tables/ait.h>
+#include <sivane/tables/entry.h>
+
+namespace sivane {
+
+namespace {
+
+constexpr int head_size = 4;
+constexpr int entry_head_size = 9;
+
+constexpr Failure descriptors_mismatch{error::length_error, "application common descriptors length mismatch"};
+constexpr Failure applications_mismatch{error::length_error, "application length mismatch"};
+
+int length_field(Reader& reader) {
+  reader.skip_bits(4);
+  return reader.bits(12);
+}
+
+void require_entry_head(int left) {
+  if (left < entry_head_size) raise({error::length_error, "application length to small"});
+}
+
+}  // namespace
+
+Ait::Application::Application(unsigned char const* data, int available, int& consumed) {
+  require_entry_head(available);
+  Reader reader = entry_reader(data, entry_head_size, applications_mismatch);
+  *this = Application(reader);
+  consumed = reader.consumed();
+}
+
+Ait::Application::Application(Reader& reader) {
+  require_entry_head(reader.left());
+  application_identifer = ApplicationIdentifier(reader);
+  application_control_code = reader.u8();
+  application_descriptors_loop_length = length_field(reader);
+  if (!parse_descriptors(reader, application_descriptors_loop_length, descriptors_mismatch)) {
+    raise(descriptors_mismatch);
+  }
+}
+
+void Ait::Application::dump_state(std::ostream& os) const {
+  application_identifer.dump_state(os);
+  dump::line(os, "application_control_code: ", application_control_code);
+  dump::line(os, "application_descriptors_loop_length: ", application_descriptors_loop_length);
+  dump_descriptors(os);
+}
+
+void Ait::_parse(unsigned char const* body) {
+  Reader reader = body_reader(body);
+  reader.need(head_size, too_little_data);
+  common_descriptors_length = length_field(reader);
+  if (!parse_descriptors(reader, common_descriptors_length, descriptors_mismatch)) {
+    raise(descriptors_mismatch);
+  }
+  application_loop_length = length_field(reader);
+  Reader loop = reader.loop(application_loop_length, applications_mismatch);
+  while (loop.more()) application_infos.emplace_back(loop);
+  if (loop.past_end()) raise(applications_mismatch);
+}
+
+char const* Ait::get_table_id_text() const { return "ait"; }
+
+char const* Ait::get_application_type_text() const {
+  switch (get_application_type()) {
+    case 0:
+      return "reserved_future_use";
+    case 1:
+      return "DVB-J application";
+    case 2:
+      return "DVB-HTML application";
+    default:
+      return "subject to registration with DVB";
+  }
+}
+
+void Ait::_reset() {
+  application_infos.clear();
+  clear_general_descriptors();
+}
+
+void Ait::_dump_state(std::ostream& os) const {
+  dump::line(os, "application_type: ", get_application_type());
+  dump::line(os, "common_descriptors_length: ", common_descriptors_length);
+  dump_descriptors(os);
+  dump::line(os, "application_loop_length: ", application_loop_length);
+  dump::each(os, application_infos);
+}
+
+bool Ait::is_valid_tablesid() const { return true; }
+
+}  // namespace sivane

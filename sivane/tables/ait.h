@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/ait_descriptor_set.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+#include <sivane/foundation/time.h>
+#include <sivane/tables/section.h>
+
+#include <iosfwd>
+#include <vector>
+
+namespace sivane {
+
+/// Application information table: the applications of one type (ETSI TS 101 812, 10.4). Accepts every table
+/// id. Its dump prints every descriptor.
+///
+/// Throws `length_error` "application common descriptors length mismatch" where the common descriptors or
+/// those of an application do not end at their length, "application length to small" where fewer than 9 bytes
+/// are left for an application, "application length mismatch" where the applications do not end at their
+/// length; and "too little data" where a length field does not stand in the section. `reset` empties the
+/// applications and the general descriptors and leaves the other common descriptors.
+class SIVANE_API Ait final : public PsiTableBase, public AitDescriptorSet {
+ public:
+  class SIVANE_API Application : public AitDescriptorSet {
+   public:
+    Application() = default;
+    /// `available` is the bytes left in the loop, `consumed` those taken.
+    Application(unsigned char const* data, int available, int& consumed);
+    explicit Application(Reader& reader);
+    explicit Application(void* node);
+    bool _save_stream_info(void* document, void* element) const;
+    void dump_state(std::ostream& os) const;
+
+    int application_control_code = 0;             ///< 8 bits
+    int application_descriptors_loop_length = 0;  ///< 12 bits, bytes
+    ApplicationIdentifier application_identifer;
+  };
+
+  SIVANE_TABLE
+  int get_application_type() const { return context_id; }  ///< 16 bits, with no flag taken out
+  char const* get_application_type_text() const;
+
+  int common_descriptors_length = 0;           ///< 12 bits, bytes
+  int application_loop_length = 0;             ///< 12 bits, bytes
+  std::vector<Application> application_infos;  ///< in section order
+};
+
+}  // namespace sivane

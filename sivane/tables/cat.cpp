@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/tables/cat.h>
+
+namespace sivane {
+
+void Cat::_parse(unsigned char const* body) {
+  constexpr int ca_tag = 0x09;
+  constexpr Failure invalid_size{error::no_errorcode, "invalid descriptor size"};
+  constexpr Failure invalid_tag{error::no_errorcode, "invalid descriptor tag"};
+  Reader reader = Reader::within(body, body_reader(body).left(), invalid_size);
+  while (reader.more()) {
+    const DescriptorBytes descriptor = reader.descriptor();
+    if (descriptor.tag() != ca_tag) raise(invalid_tag);
+    ParseDescriptor(descriptor);
+  }
+}
+
+char const* Cat::get_table_id_text() const { return "conditional_access_section"; }
+
+void Cat::_reset() { clear_descriptors(); }
+
+void Cat::_dump_state(std::ostream&) const {}
+
+bool Cat::is_valid_tablesid() const { return table_id == 0x01; }
+
+bool Cat::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
+
+}  // namespace sivane

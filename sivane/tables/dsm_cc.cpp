@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/tables/dsm_cc.h>
+
+namespace sivane {
+
+void DsmCC::_parse(unsigned char const* body) {
+  constexpr int length_without_payload = 9;
+  if (section_length < length_without_payload) raise(too_little_data);
+  data = body_reader(body).rest();
+}
+
+char const* DsmCC::get_table_id_text() const { return "DSMCC"; }
+
+void DsmCC::_reset() {}
+
+void DsmCC::_dump_state(std::ostream&) const {}
+
+bool DsmCC::is_valid_tablesid() const { return table_id == 0x3B || table_id == 0x3C; }
+
+}  // namespace sivane

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// Internal: the body that a NIT and a BAT have in common.
+#pragma once
+
+#include <sivane/foundation/reader.h>
+#include <sivane/tables/section.h>
+
+namespace sivane {
+
+/// Two loops, bounded by their own lengths and by the end of the section; where the CRC lies plays no part.
+template <class Table>
+void parse_network_body(Table& table, Reader reader) {
+  constexpr int ca_tag = 0x09;
+  constexpr int size_without_loops = 4;
+  reader.need(size_without_loops, too_little_data);
+
+  reader.skip_bits(4);
+  const int descriptors_length = reader.bits(12);
+  // Where the last descriptor ends is not looked at.
+  reader.each_descriptor(descriptors_length, start_end_mismatch, [&table](DescriptorBytes descriptor) {
+    if (descriptor.tag() == ca_tag) {
+      table.ca_descriptors.emplace_back(descriptor);
+    } else {
+      table.ParseDescriptor(descriptor);
+    }
+  });
+
+  reader.skip_bits(4);
+  const int loop_length = reader.bits(12);
+  Reader loop = reader.loop(loop_length, start_end_mismatch);
+  // Each entry is told the length of the whole loop, so that only a loop too short for any has too little
+  // data.
+  while (loop.more()) table.stream_infos.emplace_back(loop, loop_length);
+  if (loop.past_end()) raise(start_end_mismatch);
+}
+
+}  // namespace sivane

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/tables/network_body.h>
+#include <sivane/tables/nit.h>
+
+namespace sivane {
+
+Nit::Nit() = default;
+
+void Nit::Stream_info::dump_state(std::ostream& os) const {
+  dump::line(os, "stream_id ", stream_id);
+  dump::line(os, "original_network_id ", network_id);
+  dump::each(os, get_general_descriptors());
+  dump::each(os, get_satellite_delivery_system_descriptors());
+  dump::each(os, get_service_list_descriptors());
+}
+
+void Nit::_parse(unsigned char const* body) { parse_network_body(*this, body_reader(body)); }
+
+char const* Nit::get_table_id_text() const {
+  if (table_id == 0x40) return "network_information_section - actual_transport_network";
+  if (table_id == 0x41) return "network_information_section - other_transport_network";
+  return "ERROR";
+}
+
+void Nit::_reset() {
+  ca_descriptors.clear();
+  stream_infos.clear();
+}
+
+void Nit::_dump_state(std::ostream& os) const { dump::each(os, stream_infos); }
+
+bool Nit::is_valid_tablesid() const { return table_id == 0x40 || table_id == 0x41; }
+
+bool Nit::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
+
+}  // namespace sivane

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/descriptor_set.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+#include <sivane/tables/section.h>
+
+#include <iosfwd>
+#include <memory>
+#include <vector>
+
+namespace sivane {
+
+/// The head of a stream entry on the wire, as an overlay.
+struct _PMT_INFO {  // NOLINT(bugprone-reserved-identifier): its name in hosts
+  unsigned char bytes[5];
+};
+
+/// One elementary stream of a program.
+class SIVANE_API PmtStreamInfo : public DescriptorSet {
+ public:
+  PmtStreamInfo() = default;
+  /// `size` is the bytes left in the loop on the way in, those consumed on the way out. Throws "too little
+  /// data" where fewer than 5 are left. A last descriptor that runs over the entry is not noticed.
+  PmtStreamInfo(_PMT_INFO* entry, int& size);
+  explicit PmtStreamInfo(Reader& reader);
+  explicit PmtStreamInfo(void* node);
+  bool _save_stream_info(void* document, void* element) const;
+  void dump_state(std::ostream& os) const;
+
+  int stream_type = 0;                                             ///< 8 bits
+  int elementary_pid = 0;                                          ///< 13 bits
+  std::vector<std::shared_ptr<DescriptorBase const>> descriptors;  ///< the host's: only dumped
+  int es_info_length = 0;                                          ///< 12 bits, bytes
+};
+
+/// Program map table: the streams of one program (ISO/IEC 13818-1, 2.4.4.8). `context_id` is the
+/// program_number. Accepts table id 0x02. Its dump prints the descriptors of eight kinds, its entries' those
+/// of ten.
+///
+/// Throws "too little data" where the body is shorter than its head or fewer than 5 bytes are left for an
+/// entry, "descriptor start end mismatch" where the program's descriptors do not end at their length or the
+/// entries at the CRC.
+class SIVANE_API Pmt final : public PsiTableBase, public DescriptorSet {
+ public:
+  SIVANE_TABLE
+  bool is_valid_syntax_indicator(int indicator) const override;
+
+  /// Appends copies of the program's own CA descriptors and then of each stream's.
+  void get_all_ca_descriptors(std::vector<DescriptorCa>& out) const;
+
+  int pcr_pid = 0;                                                 ///< 13 bits
+  std::vector<PmtStreamInfo> stream_infos;                         ///< in section order
+  std::vector<std::shared_ptr<DescriptorBase const>> descriptors;  ///< the host's: only dumped
+};
+
+}  // namespace sivane

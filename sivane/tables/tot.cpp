@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
+#include <sivane/tables/tot.h>
+
+#include <ostream>
+
+namespace sivane {
+
+void Tot::_parse(unsigned char const* body) {
+  Reader reader = body_reader(body);
+  UTC_time = DateTime(reader);
+  reader.skip_bits(4);
+  const int descriptors_loop_length = reader.bits(12);
+  if (!parse_descriptors(reader, descriptors_loop_length, start_end_mismatch)) raise(start_end_mismatch);
+  crc32 = reader.u32();
+}
+
+char const* Tot::get_table_id_text() const { return "time_offset_section"; }
+
+void Tot::_reset() { clear_general_descriptors(); }
+
+void Tot::_dump_state(std::ostream& os) const {
+  PsiBase::_dump_state(os);
+  os << "UTC_time: " << UTC_time << std::endl;
+  dump::line(os, "crc32: ", crc32);
+}
+
+bool Tot::is_valid_tablesid() const { return table_id == 0x73; }
+
+bool Tot::is_syntax_indicator_valid(int indicator) const { return indicator == 0; }
+
+}  // namespace sivane

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/descriptors/descriptor_set.h>
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/reader.h>
+
+namespace sivane {
+
+/// A transport stream of a network or bouquet (ETSI EN 300 468, 5.2.1 and 5.2.2). A last descriptor that runs
+/// over the entry is not noticed.
+class SIVANE_API TransportStreamEntry : public DescriptorSet {
+ public:
+  TransportStreamEntry() = default;
+  /// `size` is the bytes available on the way in, those consumed on the way out. Throws "too little data"
+  /// where fewer than 6 are available.
+  TransportStreamEntry(unsigned char const* data, int& size);
+  TransportStreamEntry(Reader& reader, int available);
+  explicit TransportStreamEntry(void* node);
+  bool _save_stream_info(void* document, void* element) const;
+
+  int stream_id = 0;   ///< transport_stream_id, 16 bits
+  int network_id = 0;  ///< original_network_id, 16 bits
+};
+
+}  // namespace sivane
