@@ -3,9 +3,9 @@
 //
 // Documents are not supported yet. Until they are, loading is a clear failure and saving is refused, so that
 // no host takes an empty element for a saved one.
-#include <sivane/foundation/error.h>
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
+#include <sivane/foundation/error.h>
 #include <sivane/tables/ait.h>
 #include <sivane/tables/bat.h>
 #include <sivane/tables/cat.h>
