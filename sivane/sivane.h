@@ -34,3 +34,7 @@
 #include <sivane/tables/section.h>
 #include <sivane/tables/tdt.h>
 #include <sivane/tables/tot.h>
+
+// Tables into documents and back: what a document is asked for, and single attributes in the library's forms.
+#include <sivane/xml/attributes.h>
+#include <sivane/xml/dom.h>

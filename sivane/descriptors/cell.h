@@ -23,6 +23,8 @@ class SIVANE_API DescriptorCellList final : public DescriptorBase {
      public:
       SubCellInfo() = default;
       explicit SubCellInfo(Reader& r);
+      void Parse(void* node);
+      bool SaveSection(void* document, void* element) const;
 
       int cell_id_extension = 0;         ///< 8 bits
       int cell_latitude = 0;             ///< 16 bits, as coded
@@ -35,6 +37,8 @@ class SIVANE_API DescriptorCellList final : public DescriptorBase {
     /// `size` is not looked at.
     CellListData(unsigned char const* p, int size, int& consumed);
     explicit CellListData(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
 
     int cell_id = 0;                   ///< 16 bits
     int cell_latitude = 0;             ///< 16 bits, as coded
@@ -63,6 +67,8 @@ class SIVANE_API DescriptorCellFrequncyLink final : public DescriptorBase {
      public:
       SubCellInfo() = default;
       explicit SubCellInfo(Reader& r);
+      void Parse(void* node);
+      bool SaveSection(void* document, void* element) const;
 
       int cell_id_extension = 0;               ///< 8 bits
       unsigned long transposer_frequency = 0;  ///< 32 bits, in units of 10 Hz
@@ -72,6 +78,8 @@ class SIVANE_API DescriptorCellFrequncyLink final : public DescriptorBase {
     /// `size` is not looked at.
     CellFrequencyLinkData(unsigned char const* p, int size, int& consumed);
     explicit CellFrequencyLinkData(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
 
     int cell_id = 0;               ///< 16 bits
     unsigned long frequency = 0;   ///< 32 bits, in units of 10 Hz
@@ -96,6 +104,8 @@ class SIVANE_API DescriptorAnnouncementSupport final : public DescriptorBase {
     /// `size` is not looked at.
     AnnouncementSupportData(unsigned char const* p, int size, int& consumed);
     explicit AnnouncementSupportData(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
 
     int announcement_type = 0;    ///< 4 bits
     int reference_type = 0;       ///< 3 bits; the rest is there with 1, 2 and 3 only
@@ -121,6 +131,8 @@ class SIVANE_API DescriptorApplicationSignalling final : public DescriptorBase {
    public:
     ApplicationInfo() = default;
     explicit ApplicationInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     char const* get_application_type_text() const;
 
     int application_type = 0;    ///< 16 bits

@@ -24,6 +24,12 @@ class SIVANE_API DescriptorBase {
   virtual void _reset() = 0;
   virtual void _parse(void* node) = 0;
 
+  /// Loads tag, length and what the class carries from the descriptor's element. Throws `error` where a part
+  /// is missing.
+  void Parse(void* node);
+  /// Saves them on the descriptor's element, which `document` has made. False once it refuses.
+  bool SaveSection(void* document, void* element) const;
+
   int tag = 0;     ///< descriptor_tag, 8 bits
   int length = 0;  ///< descriptor_length, 8 bits: the body bytes behind it
 

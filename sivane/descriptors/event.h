@@ -36,6 +36,8 @@ class SIVANE_API DescriptorExtendedEvent final : public DescriptorBase {
     /// `size` is the bytes left on the way in, those consumed on the way out.
     Item(unsigned char const* p, int& size);
     explicit Item(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
 
     Text description;
@@ -85,6 +87,8 @@ class SIVANE_API DescriptorContent final : public DescriptorBase {
    public:
     Content() = default;
     explicit Content(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
     char const* get_content_nibble_level1_text() const;
     char const* get_content_nibble_level2_text() const;  ///< by both nibbles
@@ -109,6 +113,8 @@ class SIVANE_API DescriptorParentalRating final : public DescriptorBase {
    public:
     RatingInfo() = default;
     explicit RatingInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     char country_code[4] = {};
@@ -132,6 +138,8 @@ class SIVANE_API DescriptorLocalTimeOffset final : public DescriptorBase {
     /// `consumed` is 13.
     LocalTime(unsigned char const* p, int& consumed);
     explicit LocalTime(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
 
     char country_code[4] = {};

@@ -16,6 +16,8 @@ class SIVANE_API DescriptorMosiac final : public DescriptorBase {
    public:
     BouquetInfo() = default;
     explicit BouquetInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     int bouquet_id = 0;  ///< 16 bits
@@ -25,6 +27,8 @@ class SIVANE_API DescriptorMosiac final : public DescriptorBase {
    public:
     ServiceInfo() = default;
     explicit ServiceInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     int original_network_id = 0;  ///< 16 bits
@@ -42,6 +46,8 @@ class SIVANE_API DescriptorMosiac final : public DescriptorBase {
    public:
     EventInfo() = default;
     explicit EventInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     int original_network_id = 0;  ///< 16 bits
@@ -57,6 +63,8 @@ class SIVANE_API DescriptorMosiac final : public DescriptorBase {
     /// `size` plays no part.
     CellInfo(unsigned char const* p, int size, int& consumed);
     explicit CellInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     int logical_cell_id = 0;                        ///< 6 bits

@@ -133,6 +133,8 @@ class SIVANE_API DescriptorISO639Language final : public DescriptorBase {
    public:
     ISO639Lang() = default;
     explicit ISO639Lang(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
 
     char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero

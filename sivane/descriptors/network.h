@@ -29,6 +29,8 @@ class SIVANE_API DescriptorServiceList final : public DescriptorBase {
    public:
     ServiceList() = default;
     explicit ServiceList(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
 
     int service_id = 0;    ///< 16 bits

@@ -70,6 +70,8 @@ class SIVANE_API DescriptorNVODReference final : public DescriptorBase {
    public:
     service() = default;
     explicit service(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     int transport_stream_id = 0;  ///< 16 bits
@@ -101,6 +103,8 @@ class SIVANE_API DescriptorCAIdentifier final : public DescriptorBase {
    public:
     CAIdentifierID() = default;
     explicit CAIdentifierID(Reader& r) : CA_system_id(r.u16()) {}
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
 
     int CA_system_id = 0;  ///< 16 bits
@@ -156,6 +160,8 @@ class SIVANE_API DescriptorMultilingualServiceName final : public DescriptorBase
     MultilingualServiceNameInfo() = default;
     MultilingualServiceNameInfo(unsigned char const* p, int size, int& consumed);
     explicit MultilingualServiceNameInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero

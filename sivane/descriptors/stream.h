@@ -28,6 +28,8 @@ class SIVANE_API DescriptorTeletext final : public DescriptorBase {
    public:
     TeletextItem() = default;
     explicit TeletextItem(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void dump_state(std::ostream& os) const;
     char const* get_teletext_type_text() const;
 
@@ -52,6 +54,8 @@ class SIVANE_API DescriptorVBITeletext final : public DescriptorBase {
    public:
     VBITeleTextData() = default;
     explicit VBITeleTextData(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream&) const {}
 
     char ISO_639_language_code[4] = {};
@@ -74,6 +78,8 @@ class SIVANE_API DescriptorSubtitling final : public DescriptorBase {
    public:
     SubtitlingInfo() = default;
     explicit SubtitlingInfo(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream& os) const;
 
     char ISO_639_language_code[4] = {};
@@ -99,6 +105,8 @@ class SIVANE_API DescriptorVBIData final : public DescriptorBase {
     /// `size` is not looked at.
     VBIServiceData(unsigned char const* p, int size, int& consumed);
     explicit VBIServiceData(Reader& r);
+    void Parse(void* node);
+    bool SaveSection(void* document, void* element) const;
     void _dump_state(std::ostream&) const {}
 
     int data_service_id = 0;                 ///< 8 bits

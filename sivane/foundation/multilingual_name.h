@@ -19,6 +19,9 @@ class SIVANE_API MultilingualNameInfo {
   /// `error::length_error` where the head (4 bytes) or the name does not fit in `size`.
   MultilingualNameInfo(unsigned char const* data, int size, int& used);
   explicit MultilingualNameInfo(Reader& reader);
+  explicit MultilingualNameInfo(void* node);
+  void Parse(void* node);
+  bool SaveSection(void* document, void* element) const;
 
   void _dump_state(std::ostream& os) const;
 

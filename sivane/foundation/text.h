@@ -41,6 +41,8 @@ class SIVANE_API LengthPrefixedString {
 
   /// Two lines, `label` with "_length: " and `label` with ": ".
   void dump_state(char const* label, std::ostream& os) const;
+  void Parse(void* node);
+  bool SaveSection(void* document, void* element) const;
 
   int length = 0;  ///< 8 bits
   std::string value;

@@ -23,6 +23,9 @@ class SIVANE_API DateTime {
   explicit DateTime(Reader& reader);
 
   void dump_state(std::ostream& os) const;
+  /// As an element of a document, each member an attribute.
+  void Parse(void* node);
+  bool SaveSection(void* document, void* element) const;
   /// The six members as decimal numbers with a blank between, day first.
   std::string get_date_as_text() const;
   /// Reads what `get_date_as_text` writes. Members that the text does not reach stay. Always true.
@@ -60,6 +63,9 @@ class SIVANE_API TimeOffset {
   TimeOffset() = default;
   explicit TimeOffset(unsigned char const* data);
   explicit TimeOffset(Reader& reader);
+  /// As an element of a document, each member an attribute.
+  void Parse(void* node);
+  bool SaveSection(void* document, void* element) const;
 
   int hour = 0;
   int minute = 0;
@@ -74,6 +80,9 @@ class SIVANE_API ApplicationIdentifier {
   explicit ApplicationIdentifier(Reader& reader);
 
   void dump_state(std::ostream& os) const;
+  /// As an element of a document, each member an attribute.
+  void Parse(void* node);
+  bool SaveSection(void* document, void* element) const;
   /// Eight and four upper-case hexadecimal digits with a blank between.
   std::string application_identifier_as_text() const;
   /// Reads two hexadecimal numbers of either case. Members that the text does not reach stay. Always true.
