@@ -22,3 +22,6 @@
 // From sections to tables.
 #include <sivane/tables/pat.h>
 #include <sivane/tables/section.h>
+
+// Registered names of numbers, for hosts that show them; opened by `init`.
+#include <sivane/registry/registry.h>
