@@ -26,14 +26,26 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
       failed = true;
       return;
     }
-    std::printf("%s: %.2fx %s (8 of 10 rounds: %.2f to %.2f; %.0f against %.0f MB/s)\n", name.c_str(),
-                number(run, "ratio"), run.report_label.c_str(), number(run, "low"), number(run, "high"),
-                number(run, "speed") / 1e6, number(run, "yardstick_speed") / 1e6);
+    std::printf("%s: %.2fx %s (8 of 10 rounds: %.2f to %.2f; %s)\n", name.c_str(), number(run, "ratio"),
+                run.report_label.c_str(), number(run, "low"), number(run, "high"), both_sides(run).c_str());
     const auto allocations = run.counters.find("allocations");
     if (allocations != run.counters.end()) {
       std::printf("%s: %.2f allocations a descriptor\n", name.c_str(), allocations->second.value);
     }
     std::fflush(stdout);
+  }
+  static std::string both_sides(Run const& run) {
+    const double bytes = number(run, "bytes");
+    const double time = number(run, "time");
+    const double yardstick_time = number(run, "yardstick_time");
+    char text[80];
+    if (bytes > 0) {
+      std::snprintf(text, sizeof text, "%.0f against %.0f MB/s", bytes / time / 1e6,
+                    bytes / yardstick_time / 1e6);
+    } else {
+      std::snprintf(text, sizeof text, "%.3f against %.3f ms", time * 1e3, yardstick_time * 1e3);
+    }
+    return text;
   }
   /// The argument of a run stands where its name has a '#'.
   static std::string name_of(Run const& run) {

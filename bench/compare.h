@@ -31,8 +31,8 @@ inline double quantile(std::vector<double> samples, double share) {
 }
 
 /// Runs both sides once in every iteration, the first to go changing in turn, and reports how many times as
-/// long `work` takes as `yardstick`. `bytes` is what each goes through; `yardstick_name` ends the printed
-/// line.
+/// long `work` takes as `yardstick`. `bytes` is what each goes through, 0 where a speed in bytes says
+/// nothing; `yardstick_name` ends the printed line.
 template <class Work, class Yardstick>
 void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_name, Work work,
              Yardstick yardstick) {
@@ -52,8 +52,9 @@ void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_n
   state.counters["ratio"] = quantile(ratios, 0.5);
   state.counters["low"] = quantile(ratios, 0.1);
   state.counters["high"] = quantile(ratios, 0.9);
-  state.counters["speed"] = static_cast<double>(bytes) / quantile(times, 0.5);
-  state.counters["yardstick_speed"] = static_cast<double>(bytes) / quantile(yardstick_times, 0.5);
+  state.counters["bytes"] = static_cast<double>(bytes);
+  state.counters["time"] = quantile(times, 0.5);
+  state.counters["yardstick_time"] = quantile(yardstick_times, 0.5);
   state.SetLabel(yardstick_name);
 }
 

@@ -38,3 +38,6 @@
 // Tables into documents and back: what a document is asked for, and single attributes in the library's forms.
 #include <sivane/xml/attributes.h>
 #include <sivane/xml/dom.h>
+
+// Registered names of numbers, for hosts that show them; opened by `init`.
+#include <sivane/registry/registry.h>

@@ -79,6 +79,12 @@ std::string service_name(const std::vector<unsigned char>& loop) {
   return services.empty() ? "" : services.front().service_name;
 }
 
+// Registered names
+
+void print_scrambling(const sivane::DescriptorCa& ca) {
+  std::cout << "scrambled by " << sivane::get_ca_system_id(ca.sys_id) << '\n';
+}
+
 int main(int argc, char** argv) {
   std::ifstream file(argc > 1 ? argv[1] : "", std::ios::binary);
   std::vector<char> text{std::istreambuf_iterator<char>(file), {}};
@@ -93,5 +99,9 @@ int main(int argc, char** argv) {
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
   std::cout << service_name({0x48, 0x09, 0x01, 0x03, 'A', 'B', 'C', 0x03, 'O', 'n', 'e'}) << '\n';
+
+  sivane::init();
+  const unsigned char ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
+  print_scrambling(sivane::DescriptorCa(ca));
   return whole && receiver.program_maps > 0 && events.sections > 0 ? 0 : 1;
 }
