@@ -22,3 +22,7 @@
 // From sections to tables.
 #include <sivane/tables/pat.h>
 #include <sivane/tables/section.h>
+
+// Documents: what a DOM has to offer, and values as attributes.
+#include <sivane/xml/attributes.h>
+#include <sivane/xml/dom.h>
