@@ -1,0 +1,206 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// What holds for the documents of every table and descriptor, whatever they hold.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "expect_error.h"
+#include "memory_dom.h"
+
+namespace sivane::testing {
+
+/// A document with an element to fill.
+struct Saved {
+  template <class Object>
+  bool save(Object const& object) {
+    return object.SaveSection(document.get(), element.get());
+  }
+  template <class Object>
+  void load(Object& object) const {
+    object.Parse(static_cast<void*>(static_cast<IXMLDOMNode*>(element.get())));
+  }
+  std::string text() const { return written(element.get()); }
+
+  MemoryDom dom;
+  CComPtr<IXMLDOMDocument> document = dom.document();
+  CComPtr<IXMLDOMElement> element = dom.element(u"it");
+};
+
+template <class Object>
+std::string dump_of(Object const& object) {
+  std::ostringstream os;
+  object.dump_state(os);
+  return os.str();
+}
+
+/// Where an element stands: its parents' names from the outermost on, and their children's numbers.
+struct Place {
+  std::vector<std::string> names;
+  std::vector<std::size_t> numbers;
+};
+
+inline CComPtr<IXMLDOMNode> node_at(Saved const& saved, Place const& place) {
+  CComPtr<IXMLDOMNode> node(saved.element.get());
+  for (const std::size_t number : place.numbers) node = child_at(node.get(), number);
+  return node;
+}
+
+/// Every element of the tree, the outermost included.
+inline void collect(IXMLDOMNode* node, Place const& place, std::vector<Place>& places) {
+  places.push_back(place);
+  for (std::size_t i = 0; i < child_count(node); ++i) {
+    const CComPtr<IXMLDOMNode> child = child_at(node, i);
+    Place below = place;
+    below.names.push_back(name_of(child.get()));
+    below.numbers.push_back(i);
+    collect(child.get(), below, places);
+  }
+}
+
+inline std::string name_at(Place const& place, std::size_t levels_up) {
+  const std::size_t depth = place.names.size();
+  return depth > levels_up ? place.names[depth - 1 - levels_up] : "";
+}
+
+inline bool is_list(IXMLDOMNode* node) { return attribute_count(node) == 0; }
+
+/// What loading throws without an attribute, by where it stood.
+inline std::string failure_without_attribute(Place const& place, std::string const& attribute,
+                                             bool is_table) {
+  const std::string names_itself = "failed to get " + attribute;
+  constexpr char const* header[] = {
+      "table_id",       "syntax_indicator",    "section_length",         "context_id", "version_number",
+      "section_number", "last_section_number", "current_next_indicator", "crc32"};
+  const bool is_head = attribute == "descriptor_id" || attribute == "descriptor_length";
+  if (is_head) return names_itself;
+  if (name_at(place, 1) == "program_infos") {
+    return attribute == "sid" ? "failed to get sid attribute" : "failed to get pid node";
+  }
+  const bool is_of_header = std::find(std::begin(header), std::end(header), attribute) != std::end(header);
+  return is_table && place.names.empty() && is_of_header ? names_itself : "failed";
+}
+
+/// What it throws without a child.
+inline std::string failure_without_child(Place const& place, std::string const& child, bool is_table) {
+  if (child == "descriptors") return "failed to get descriptors node";
+  return is_table && place.names.empty() ? "failed to get program_infos node" : "failed to get " + child;
+}
+
+/// Loads what `change` leaves of a saved document; the failure's text, or nothing.
+template <class Object, class Change>
+std::string failure_of_changed(Object const& object, Change change) {
+  Saved saved;
+  saved.save(object);
+  change(saved);
+  Object loaded;
+  const auto failure = caught_error([&] { saved.load(loaded); });
+  return failure ? failure->what() : "";
+}
+
+/// Without any one of its attributes or children a document throws the words that are laid down for it; a
+/// list may lack any of its items.
+template <class Object>
+void expect_everything_is_needed(Object const& object, bool is_table) {
+  Saved whole;
+  whole.save(object);
+  std::vector<Place> places;
+  collect(whole.element.get(), {}, places);
+  for (Place const& place : places) {
+    const CComPtr<IXMLDOMNode> node = node_at(whole, place);
+    for (std::size_t i = 0; i < attribute_count(node.get()); ++i) {
+      std::string name;
+      const std::string failure = failure_of_changed(
+          object, [&](Saved const& saved) { name = take_attribute(node_at(saved, place).get(), i); });
+      EXPECT_EQ(failure, failure_without_attribute(place, name, is_table))
+          << name_at(place, 0) << ' ' << name;
+    }
+    for (std::size_t i = 0; i < child_count(node.get()); ++i) {
+      const std::string name = name_of(child_at(node.get(), i).get());
+      const std::string failure =
+          failure_of_changed(object, [&](Saved const& saved) { take_child(node_at(saved, place).get(), i); });
+      EXPECT_EQ(failure, is_list(node.get()) ? "" : failure_without_child(place, name, is_table)) << name;
+    }
+    if (!is_list(node.get())) continue;
+    const std::string failure = failure_of_changed(object, [&](Saved& saved) {
+      node_at(saved, place)->appendChild(saved.dom.comment().get(), nullptr);
+    });
+    const bool skips = name_at(place, 0) == "descriptors";
+    const bool has_own_words = name_at(place, 0) == "program_infos";
+    EXPECT_EQ(failure, skips ? "" : has_own_words ? "failed to get attribute map" : "failed") << "a comment";
+  }
+}
+
+/// Lines of a written tree without "descriptors" elements and what is below them.
+inline std::string without_descriptors(std::string const& tree) {
+  std::istringstream lines(tree);
+  std::string kept;
+  std::size_t left_out = std::string::npos;
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t indent = line.find_first_not_of(' ');
+    if (left_out != std::string::npos && indent > left_out) continue;
+    left_out = line.substr(indent) == "descriptors" ? indent : std::string::npos;
+    if (left_out == std::string::npos) kept += line + '\n';
+  }
+  return kept;
+}
+
+/// A document that refuses any one operation: saving answers false, but for what stands below "descriptors"
+/// and in records, where it leaves a gap; loading throws. Nothing stays behind but the nodes that are in the
+/// tree.
+template <class Object>
+void expect_refusals_are_met(Object const& object, bool is_table, bool save_may_throw = false) {
+  Saved whole;
+  whole.dom.refuse(0);
+  whole.save(object);
+  const std::string text = whole.text();
+  const int operations = whole.dom.operations();
+  for (int nth = 1; nth <= operations; ++nth) {
+    Saved saved;
+    saved.dom.refuse(nth);
+    bool answer = false;
+    const auto failure = caught_error([&] { answer = saved.save(object); });
+    EXPECT_FALSE(failure && !save_may_throw) << failure->what();
+    EXPECT_FALSE(answer && saved.text() == text) << "operation " << nth;
+    EXPECT_FALSE(answer && is_table && without_descriptors(saved.text()) != without_descriptors(text))
+        << "operation " << nth;
+    EXPECT_EQ(saved.dom.objects(), 1 + objects_below(saved.element.get())) << "operation " << nth;
+  }
+  const int objects = whole.dom.objects();
+  whole.dom.refuse(0);
+  Object complete;
+  whole.load(complete);
+  const int steps = whole.dom.operations();
+  for (int nth = 1; nth <= steps; ++nth) {
+    for (const auto refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
+      whole.dom.refuse(nth, refusal);
+      Object loaded;
+      const auto failure = caught_error([&] { whole.load(loaded); });
+      if (refusal == MemoryDom::Refusal::result) {
+        EXPECT_TRUE(failure && std::string(failure->what()).rfind("failed", 0) == 0) << "operation " << nth;
+      }
+      EXPECT_EQ(whole.dom.objects(), objects) << "operation " << nth;
+    }
+  }
+  whole.dom.refuse(0);
+}
+
+/// Saved, loaded and saved again an object gives the same document, in the element's own attributes and
+/// below.
+template <class Object>
+Object expect_round_trip(Object const& object) {
+  Saved first, second;
+  EXPECT_TRUE(first.save(object));
+  Object loaded;
+  first.load(loaded);
+  EXPECT_TRUE(second.save(loaded));
+  EXPECT_EQ(second.text(), first.text());
+  return loaded;
+}
+
+}  // namespace sivane::testing
