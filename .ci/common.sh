@@ -24,13 +24,15 @@ configure() {
 # The build with g++ that several checks share.
 configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON; }
 
-# install_library DIRECTORY PREFIX: builds the library alone and installs what a host needs of it into an empty
+# install_library DIRECTORY PREFIX: builds the libraries alone and installs what a host needs of them into an empty
 # prefix.
 install_library() {
-  cmake --build "$1" --parallel "$jobs" --target sivane
+  local component
+  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom
   rm -rf "$2"
-  cmake --install "$1" --prefix "$2" --component runtime > /dev/null
-  cmake --install "$1" --prefix "$2" --component development > /dev/null
+  for component in runtime development dom; do
+    cmake --install "$1" --prefix "$2" --component "$component" > /dev/null
+  done
 }
 
 # The warnings of the project, as compilers take them.

@@ -1,6 +1,6 @@
 # What is installed, and the Debian packages that cpack makes of it: libsivane0 (component runtime), libsivane-dev
-# (development) and sivane-inspect (inspect). Configure with `--install-prefix /usr` for packages, so that the
-# library goes where the distribution keeps its own.
+# (development), libsivane-dom-dev (dom) and sivane-inspect (inspect). Configure with `--install-prefix /usr` for
+# packages, so that the library goes where the distribution keeps its own.
 include(CMakePackageConfigHelpers)
 
 set(SIVANE_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/sivane)
@@ -9,6 +9,13 @@ install(TARGETS sivane EXPORT sivaneTargets
   ARCHIVE COMPONENT development
   FILE_SET HEADERS COMPONENT development)
 install(EXPORT sivaneTargets NAMESPACE sivane:: DESTINATION ${SIVANE_CMAKE_DIR} COMPONENT development)
+if(TARGET sivane_dom)
+  # Targets of their own, so that only hosts that ask for the component need what it is built on.
+  install(TARGETS sivane_dom EXPORT sivaneDomTargets
+    ARCHIVE COMPONENT dom
+    FILE_SET HEADERS COMPONENT dom)
+  install(EXPORT sivaneDomTargets NAMESPACE sivane:: DESTINATION ${SIVANE_CMAKE_DIR} COMPONENT dom)
+endif()
 
 configure_package_config_file(cmake/sivaneConfig.cmake.in ${PROJECT_BINARY_DIR}/sivaneConfig.cmake
   INSTALL_DESTINATION ${SIVANE_CMAKE_DIR})
@@ -21,6 +28,10 @@ file(RELATIVE_PATH SIVANE_PC_TO_PREFIX
   ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 configure_file(cmake/sivane.pc.in ${PROJECT_BINARY_DIR}/sivane.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/sivane.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+if(TARGET sivane_dom)
+  configure_file(cmake/sivane-dom.pc.in ${PROJECT_BINARY_DIR}/sivane-dom.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/sivane-dom.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dom)
+endif()
 
 # sivane_component(COMPONENT PACKAGE DESCRIPTION): the Debian package of a component, with its copyright file.
 function(sivane_component component package description)
@@ -34,6 +45,10 @@ set(SIVANE_RUNTIME_PACKAGE libsivane${PROJECT_VERSION_MAJOR})
 sivane_component(runtime ${SIVANE_RUNTIME_PACKAGE} "The shared library.")
 sivane_component(development libsivane-dev "Headers, the CMake package and the pkg-config file.")
 set(CPACK_COMPONENTS_ALL runtime development)
+if(TARGET sivane_dom)
+  sivane_component(dom libsivane-dom-dev "A DOM for hosts without one.")
+  list(APPEND CPACK_COMPONENTS_ALL dom)
+endif()
 if(TARGET sivane-inspect)
   install(TARGETS sivane-inspect RUNTIME COMPONENT inspect)
   sivane_component(inspect sivane-inspect "The command-line tool that shows what a stream holds.")
@@ -49,12 +64,15 @@ set(CPACK_COMPONENTS_GROUPING IGNORE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_DOM_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_INSPECT_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_INSPECT_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/sivane)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_DOM_PACKAGE_DEPENDS
+  "libsivane-dev (= ${PROJECT_VERSION}), libpugixml-dev (>= 1.13), libexpat1-dev")
 # Version 0 promises no stable interface, so that tool and library are of the same build.
 set(CPACK_DEBIAN_INSPECT_PACKAGE_DEPENDS "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})")
 include(CPack)

@@ -158,6 +158,9 @@ class CComPtr {
     if (object_ != nullptr) object_->AddRef();
   }
   CComPtr(CComPtr const& other) : CComPtr(other.object_) {}
+  /// The same object in a more general view.
+  template <class Derived>
+  CComPtr(CComPtr<Derived> const& other) : CComPtr(static_cast<Interface*>(other.get())) {}
   CComPtr(CComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
   CComPtr& operator=(CComPtr other) noexcept {
     std::swap(object_, other.object_);

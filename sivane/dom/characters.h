@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// Internal: between the UTF-16 of the interfaces and the UTF-8 of the tree, which holds nothing that XML 1.0
+// forbids (5th edition, 2.2).
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sivane::dom {
+
+/// Control characters 0x01 to 0x1F but tab, line feed and carriage return become the control pictures U+2401
+/// to U+241F; whatever else XML forbids becomes U+FFFD.
+std::string to_utf8(std::u16string_view text);
+
+/// The way back for valid UTF-8: control pictures become the characters that they show.
+std::u16string from_utf8(std::string_view text);
+
+/// Whether elements and attributes may be given this name: ASCII letters, digits and "_:-." behind a letter,
+/// '_' or ':'. (Readers do not agree about other characters.)
+bool is_name(std::string_view text);
+
+}  // namespace sivane::dom
