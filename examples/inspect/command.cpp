@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #include "command.h"
 
+#include <sivane/sivane.h>
+
 #include <iostream>
 
 namespace inspect {
@@ -13,9 +15,29 @@ void Command::take(Section const& section) {
   show(section);
 }
 
-void Command::take_broken_section() {
+void Command::take_broken(char const* reason) {
   ++number_;
-  refuse("not a whole section");
+  refuse(reason);
+}
+
+std::unique_ptr<Table> Command::table_of(Section const& section) {
+  TableClass const* const table_class = class_of(section);
+  if (table_class == nullptr) {
+    refuse("no class for table id");
+    return nullptr;
+  }
+  std::unique_ptr<Table> table = table_class->make();
+  try {
+    if (section.node != nullptr) {
+      table->load(section.node);
+    } else {
+      table->parse(section.bytes);
+    }
+  } catch (sivane::error const& failure) {
+    fail({table_class->name, failure.code, failure.what()});
+    return nullptr;
+  }
+  return table;
 }
 
 void Command::fail(Failure const& failure) {

@@ -2,10 +2,12 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "section.h"
+#include "table_classes.h"
 
 namespace inspect {
 
@@ -29,7 +31,9 @@ class Command {
 
   void take(Section const& section);
   /// Takes the place of a section that the input could not make out.
-  void take_broken_section();
+  void take_broken(char const* reason);
+  /// Called once behind the last section.
+  virtual void finish() {}
   int failures() const { return failures_; }
 
  protected:
@@ -37,6 +41,8 @@ class Command {
   virtual void show_failure(Failure const&) {}
 
   int number() const { return number_; }
+  /// A fresh object of the section's class, filled; null, and the failure shown, where that cannot be.
+  std::unique_ptr<Table> table_of(Section const& section);
   void fail(Failure const& failure);
   /// A failure of the host itself.
   void refuse(char const* reason);

@@ -47,11 +47,16 @@ struct Arguments {
   std::string file;
 };
 
-CLI::App* add_command(CLI::App& app, char const* name, char const* description, Arguments& arguments) {
+using Kinds = std::vector<std::string>;
+Kinds const kinds_of_bytes = {"ts", "sections"};
+Kinds const all_kinds = {"ts", "sections", "xml"};
+
+CLI::App* add_command(CLI::App& app, char const* name, char const* description, Kinds const& kinds,
+                      Arguments& arguments) {
   CLI::App* const command = app.add_subcommand(name, description);
   command->add_option("FILE", arguments.file, "What to read; - is standard input")->required()->type_name("");
-  command->add_option("-i,--input", arguments.input, "What FILE holds: packets, or sections as text")
-      ->check(CLI::IsMember({"ts", "sections"}))
+  command->add_option("-i,--input", arguments.input, "What FILE holds: see below")
+      ->check(CLI::IsMember(kinds))
       ->type_name("KIND")
       ->capture_default_str();
   command
@@ -66,6 +71,7 @@ Options understand(Arguments const& arguments) {
   Options options;
   options.file = arguments.file;
   if (arguments.input == "sections") options.input = Options::Input::sections;
+  if (arguments.input == "xml") options.input = Options::Input::xml;
   for (std::string const& text : arguments.handles) options.handles.push_back(handle_of(text));
   if (!options.handles.empty() && options.input != Options::Input::ts)
     throw CLI::ValidationError("--handle", "only a transport stream has PIDs (--input ts)");
@@ -89,6 +95,7 @@ constexpr char const* footer =
     "  ts        188-byte packets; the first that does not begin with 0x47 ends the run\n"
     "  sections  a section on each line, in hexadecimal; a class name and a blank in front, as in\n"
     "            'Pat 00b00d...', choose the class that it is read with\n"
+    "  xml       a document as the command xml writes it; for dump and xml\n"
     "\n"
     "PIDs and table ids are numbers as in C: --handle 0x11:0x42 --handle 17:70\n"
     "\n"
@@ -104,13 +111,17 @@ CommandLine read_command_line(int argc, char** argv) {
   app.footer(footer);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   Arguments arguments;
-  add_command(app, "dump", "Print every section as text", arguments);
-  CLI::App const* const sections = add_command(
-      app, "sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", arguments);
+  add_command(app, "dump", "Print every section as text", all_kinds, arguments);
+  CLI::App const* const xml =
+      add_command(app, "xml", "Save all sections as one XML document", all_kinds, arguments);
+  CLI::App const* const sections =
+      add_command(app, "sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX",
+                  kinds_of_bytes, arguments);
   try {
     app.parse(argc, argv);
     Options options = understand(arguments);
     if (sections->parsed()) options.show = Options::Show::sections;
+    if (xml->parsed()) options.show = Options::Show::xml;
     return {options};
   } catch (CLI::ParseError const& reason) {
     return {std::nullopt, leave(app, reason)};

@@ -12,8 +12,8 @@ namespace inspect {
 
 /// What the user asked for.
 struct Options {
-  enum class Show { dump, sections };
-  enum class Input { ts, sections };
+  enum class Show { dump, xml, sections };
+  enum class Input { ts, sections, xml };
 
   Show show = Show::dump;
   Input input = Input::ts;

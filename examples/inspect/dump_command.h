@@ -5,7 +5,6 @@
 #include <iosfwd>
 
 #include "command.h"
-#include "table_classes.h"
 
 namespace inspect {
 
@@ -17,7 +16,6 @@ class DumpCommand final : public Command {
  private:
   void show(Section const& section) override;
   void show_failure(Failure const& failure) override;
-  void show_as(TableClass const& table_class, Section const& section);
   void show_title(std::string_view class_name);
 
   std::ostream& out_;

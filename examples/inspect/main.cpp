@@ -13,6 +13,8 @@
 #include "dump_command.h"
 #include "section_list_input.h"
 #include "sections_command.h"
+#include "xml_command.h"
+#include "xml_input.h"
 
 namespace inspect {
 
@@ -20,12 +22,20 @@ namespace {
 
 std::unique_ptr<Command> make_command(Options const& options) {
   if (options.show == Options::Show::sections) return std::make_unique<SectionsCommand>(std::cout);
+  if (options.show == Options::Show::xml) return std::make_unique<XmlCommand>(std::cout);
   return std::make_unique<DumpCommand>(std::cout);
 }
 
-bool read(std::istream& in, Options const& options, Command& command) {
+bool read_sections(std::istream& in, Options const& options, Command& command) {
   if (options.input == Options::Input::sections) return read_section_list(in, command);
+  if (options.input == Options::Input::xml) return read_xml(in, command);
   return read_ts(in, options.handles, command);
+}
+
+bool read(std::istream& in, Options const& options, Command& command) {
+  bool const is_read = read_sections(in, options, command);
+  command.finish();
+  return is_read;
 }
 
 bool open_and_read(Options const& options, Command& command) {

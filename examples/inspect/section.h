@@ -8,11 +8,13 @@
 
 namespace inspect {
 
-/// A whole section as an input delivers it; views of the input's storage, valid during the call.
+/// A section as an input delivers it, in its bytes or as an element of a document; views of the input's
+/// storage, valid during the call.
 struct Section {
   static constexpr int no_pid = -1;
 
-  std::span<unsigned char const> bytes;  ///< section_length + 3 of them
+  std::span<unsigned char const> bytes = {};  ///< section_length + 3 of them; none of an element
+  void* node = nullptr;                       ///< the element, an `IXMLDOMNode*`
   int pid = no_pid;
   std::string_view class_name = {};  ///< names the class to parse with; empty: by table id
 

@@ -33,7 +33,7 @@ void give_line(std::string_view line, Command& command) {
   std::string_view const name = is_named ? line.substr(0, name_end) : std::string_view();
   std::vector<unsigned char> const bytes = bytes_of(is_named ? trim(line.substr(name_end)) : line);
   if (bytes.size() < section_start_size || bytes.size() < claimed_size(bytes.data())) {
-    command.take_broken_section();
+    command.take_broken("not a whole section");
   } else {
     command.take({.bytes = {bytes.data(), claimed_size(bytes.data())}, .class_name = name});
   }

@@ -11,12 +11,9 @@ namespace inspect {
 
 namespace {
 
-/// Both frames, long and short, offer the same operations under one name without a common base class.
-template <class Table>
-void dump(std::span<unsigned char const> section, std::ostream& out) {
-  Table table;
-  table.Parse(section.data(), section.size());
-  table.dump_state(out);
+template <class Class>
+std::unique_ptr<Table> make() {
+  return std::make_unique<TableOf<Class>>();
 }
 
 std::vector<int> event_table_ids() {
@@ -29,15 +26,19 @@ std::vector<int> event_table_ids() {
 
 std::span<TableClass const> table_classes() {
   static std::vector<TableClass> const rows = {
-      // name, table ids, usual PID, operations
-      {"Pat", {0x00}, 0x0000, dump<sivane::Pat>},       {"Cat", {0x01}, 0x0001, dump<sivane::Cat>},
-      {"Pmt", {0x02}, {}, dump<sivane::Pmt>},           {"DsmCC", {0x3B, 0x3C}, {}, dump<sivane::DsmCC>},
-      {"Nit", {0x40, 0x41}, 0x0010, dump<sivane::Nit>}, {"Sdt", {0x42, 0x46}, 0x0011, dump<sivane::Sdt>},
-      {"Bat", {0x4A}, 0x0011, dump<sivane::Bat>},       {"Eit", event_table_ids(), 0x0012, dump<sivane::Eit>},
-      {"Tdt", {0x70}, 0x0014, dump<sivane::Tdt>},       {"Rst", {0x71}, 0x0013, dump<sivane::Rst>},
-      {"Tot", {0x73}, 0x0014, dump<sivane::Tot>},       {"Ait", {0x74}, {}, dump<sivane::Ait>},
+      // name, table ids, usual PID, objects
+      {"Pat", {0x00}, 0x0000, make<sivane::Pat>},       {"Cat", {0x01}, 0x0001, make<sivane::Cat>},
+      {"Pmt", {0x02}, {}, make<sivane::Pmt>},           {"DsmCC", {0x3B, 0x3C}, {}, make<sivane::DsmCC>},
+      {"Nit", {0x40, 0x41}, 0x0010, make<sivane::Nit>}, {"Sdt", {0x42, 0x46}, 0x0011, make<sivane::Sdt>},
+      {"Bat", {0x4A}, 0x0011, make<sivane::Bat>},       {"Eit", event_table_ids(), 0x0012, make<sivane::Eit>},
+      {"Tdt", {0x70}, 0x0014, make<sivane::Tdt>},       {"Rst", {0x71}, 0x0013, make<sivane::Rst>},
+      {"Tot", {0x73}, 0x0014, make<sivane::Tot>},       {"Ait", {0x74}, {}, make<sivane::Ait>},
   };
   return rows;
+}
+
+TableClass const* class_of(Section const& section) {
+  return section.class_name.empty() ? find_class(section.table_id()) : find_class(section.class_name);
 }
 
 TableClass const* find_class(int table_id) {
