@@ -111,17 +111,27 @@ CommandLine read_command_line(int argc, char** argv) {
   app.footer(footer);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   Arguments arguments;
-  add_command(app, "dump", "Print every section as text", all_kinds, arguments);
-  CLI::App const* const xml =
-      add_command(app, "xml", "Save all sections as one XML document", all_kinds, arguments);
-  CLI::App const* const sections =
-      add_command(app, "sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX",
-                  kinds_of_bytes, arguments);
+  using Show = Options::Show;
+  std::pair<CLI::App const*, Show> const commands[] = {
+      {add_command(app, "dump", "Print every section as text", all_kinds, arguments), Show::dump},
+      {add_command(app, "xml", "Save all sections as one XML document", all_kinds, arguments), Show::xml},
+      {add_command(app, "sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX",
+                   kinds_of_bytes, arguments),
+       Show::sections},
+      {add_command(app, "services", "List the services with their names, types and states", kinds_of_bytes,
+                   arguments),
+       Show::services},
+      {add_command(app, "events", "List the events with their times and names", kinds_of_bytes, arguments),
+       Show::events},
+      {add_command(app, "networks", "List networks, bouquets and CA systems with their names", kinds_of_bytes,
+                   arguments),
+       Show::networks}};
   try {
     app.parse(argc, argv);
     Options options = understand(arguments);
-    if (sections->parsed()) options.show = Options::Show::sections;
-    if (xml->parsed()) options.show = Options::Show::xml;
+    for (auto const& [command, show] : commands) {
+      if (command->parsed()) options.show = show;
+    }
     return {options};
   } catch (CLI::ParseError const& reason) {
     return {std::nullopt, leave(app, reason)};

@@ -12,7 +12,7 @@ namespace inspect {
 
 /// What the user asked for.
 struct Options {
-  enum class Show { dump, xml, sections };
+  enum class Show { dump, xml, sections, services, events, networks };
   enum class Input { ts, sections, xml };
 
   Show show = Show::dump;

@@ -11,8 +11,11 @@
 
 #include "command_line.h"
 #include "dump_command.h"
+#include "events_command.h"
+#include "networks_command.h"
 #include "section_list_input.h"
 #include "sections_command.h"
+#include "services_command.h"
 #include "xml_command.h"
 #include "xml_input.h"
 
@@ -21,9 +24,20 @@ namespace inspect {
 namespace {
 
 std::unique_ptr<Command> make_command(Options const& options) {
-  if (options.show == Options::Show::sections) return std::make_unique<SectionsCommand>(std::cout);
-  if (options.show == Options::Show::xml) return std::make_unique<XmlCommand>(std::cout);
-  return std::make_unique<DumpCommand>(std::cout);
+  switch (options.show) {
+    case Options::Show::xml:
+      return std::make_unique<XmlCommand>(std::cout);
+    case Options::Show::sections:
+      return std::make_unique<SectionsCommand>(std::cout);
+    case Options::Show::services:
+      return std::make_unique<ServicesCommand>(std::cout);
+    case Options::Show::events:
+      return std::make_unique<EventsCommand>(std::cout);
+    case Options::Show::networks:
+      return std::make_unique<NetworksCommand>(std::cout);
+    default:
+      return std::make_unique<DumpCommand>(std::cout);
+  }
 }
 
 bool read_sections(std::istream& in, Options const& options, Command& command) {

@@ -30,9 +30,17 @@ class TableOf final : public Table {
   void dump(std::ostream& out) const override { table_.dump_state(out); }
   // A refusal leaves what was saved before it, which is all there is of a `DsmCC`.
   void save(void* document, void* element) const override { table_.SaveSection(document, element); }
+  Class const& object() const { return table_; }
 
  private:
   Class table_;
 };
+
+/// The object itself; null where it is of another class.
+template <class Class>
+Class const* table_as(Table const& table) {
+  auto const* const same = dynamic_cast<TableOf<Class> const*>(&table);
+  return same != nullptr ? &same->object() : nullptr;
+}
 
 }  // namespace inspect

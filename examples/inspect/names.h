@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <set>
+#include <string>
+
+namespace inspect {
+
+/// A registered name as people read it: without the blanks and "&nbsp;" that the lists left in it; the number
+/// where there is none.
+std::u32string registered(char const* (*lookup)(int), int id);
+/// The number and, where there is one, the name in brackets: "8350 (National Communications Commission)".
+std::u32string numbered(char const* (*lookup)(int), int id);
+/// The names of CA systems with a comma between.
+std::u32string ca_systems(std::set<int> const& ids);
+
+}  // namespace inspect

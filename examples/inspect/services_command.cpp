@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "services_command.h"
+
+#include <sivane/sivane.h>
+
+#include <ostream>
+
+#include "names.h"
+#include "terminal.h"
+
+namespace inspect {
+
+namespace {
+
+std::u32string running_text(int status) {
+  constexpr char const* texts[] = {"-", "not running", "starts soon", "pausing", "running", "off-air"};
+  return plain(static_cast<std::size_t>(status) < std::size(texts) ? texts[status] : "-");
+}
+
+std::u32string type_text(int type) {
+  return type < 0 ? U"-" : plain(sivane::DescriptorService::get_service_type_text(type));
+}
+
+std::u32string access_text(Service const& service, std::set<int> const& systems) {
+  std::u32string const names = ca_systems(systems);
+  if (!service.is_scrambled) return names.empty() ? U"free" : U"free (" + names + U")";
+  return names.empty() ? U"scrambled" : U"scrambled (" + names + U")";
+}
+
+}  // namespace
+
+void ServicesCommand::show(Section const& section) {
+  if (auto const table = table_of(section)) services_.take(*table);
+}
+
+void ServicesCommand::finish() {
+  Columns columns({U"network", U"stream", U"service", U"name", U"provider", U"type", U"status", U"access"});
+  for (auto const& [id, service] : services_.all()) {
+    columns.add({registered(sivane::get_original_network_id, id.original_network), plain(id.transport_stream),
+                 plain(id.service), service.name, service.provider, type_text(service.type),
+                 running_text(service.running_status), access_text(service, services_.ca_systems_of(id))});
+  }
+  if (columns.empty()) {
+    report("no service is described");
+  } else {
+    columns.print(out_);
+  }
+}
+
+}  // namespace inspect
