@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Any bytes as a loop of descriptors that ends with its section: parse, dump, copy, destroy. One that is
-// refused ends nothing, so that every descriptor of an input gets its turn.
+// Any bytes as a loop of descriptors that ends with its section: parse, dump, copy, destroy. Bit 0 of the
+// first byte chooses the tag space of an AIT. A descriptor that is refused ends nothing, so that every one of
+// an input gets its turn.
+#include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
 #include <algorithm>
@@ -32,23 +34,40 @@ void exercise(sivane::DescriptorSet const& set) {
 #include <sivane/descriptors/descriptor_rows.inc>
 }
 
-}  // namespace
+void exercise(sivane::AitDescriptorSet const& set) {
+  std::ostringstream text;
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) exercise(text, set.getter());
+#define SIVANE_GENERAL_ROW(kind, getter, element) exercise(text, set.getter());
+#include <sivane/descriptors/ait_descriptor_rows.inc>
+}
 
-extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-  // A block of its own size: the address sanitizer sees each byte behind it.
-  const std::vector<unsigned char> block(data, data + size);
-  unsigned char const* const end = block.data() + size;
-  sivane::DescriptorSet set;
+void file(sivane::DescriptorSet& set, sivane::DescriptorBytes bytes) { set.ParseDescriptor(bytes); }
+void file(sivane::AitDescriptorSet& set, sivane::DescriptorBytes bytes) { set.ParseDescriptorAit(bytes); }
+
+template <class Set>
+void exercise_loop(std::vector<unsigned char> const& block) {
+  unsigned char const* const end = block.data() + block.size();
+  Set set;
   for (unsigned char const* at = block.data(); end - at >= 2;
        at += std::min<std::ptrdiff_t>(2 + at[1], end - at)) {
     try {
-      set.ParseDescriptor({at, end});
+      file(set, {at, end});
     } catch (sivane::error const& failure) {
       check(failure.what() != nullptr, "what() is never null");
     }
   }
-  const sivane::DescriptorSet copy = set;
+  const Set copy = set;
   set = {};
   exercise(copy);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+  sivane::fuzzing::Input input(data, size);
+  const bool is_ait = (input.byte() & 1) != 0;
+  // A block of its own size: the address sanitizer sees each byte behind it.
+  const std::vector<unsigned char> block = input.rest();
+  is_ait ? exercise_loop<sivane::AitDescriptorSet>(block) : exercise_loop<sivane::DescriptorSet>(block);
   return 0;
 }

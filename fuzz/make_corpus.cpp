@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Writes the inputs that the fuzzers start from: make_corpus FOLDER fills FOLDER/demux and FOLDER/sections.
+// Writes the inputs that the fuzzers start from: make_corpus FOLDER fills a folder of FOLDER for each target.
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <stdexcept>
 #include <string>
 
+#include "case_file.h"
 #include "packet_writer.h"
 #include "section_builder.h"
+#include "section_text.h"
 
 namespace {
 
@@ -110,10 +113,54 @@ void write_sections(fs::path const& folder) {
         Bytes{fitted} + sivane::testing::make_section({.table_id = 0x02}, Bytes(4)));
 }
 
-/// A descriptor of every tag with a class, and of some without, `length` bytes each.
-Bytes all_tags(int length, int first_byte, int step) {
-  Bytes loop;
-  for (int tag = 0; tag <= 0x80; ++tag) {
+/// One descriptor of each tag that the case files have, as hexadecimal digits.
+std::string one_of_each(std::initializer_list<char const*> names) {
+  std::map<int, std::string> by_tag;
+  for (char const* const name : names) {
+    const auto cases = sivane::testing::read_cases(std::string("descriptors/cases/") + name + ".txt");
+    for (auto const& one : cases) by_tag.emplace(sivane::testing::assemble(one.bytes)[0], one.bytes);
+  }
+  std::string all;
+  for (auto const& [tag, bytes] : by_tag) all += bytes + ' ';
+  return all;
+}
+
+/// A section of each class that the case files of descriptors fill.
+void write_rich_sections(fs::path const& folder) {
+  const std::string all =
+      one_of_each({"mpeg_systems", "network", "service", "event", "stream", "cell", "general"});
+  const std::string ait = one_of_each({"ait"});
+  const std::string start = "B( 1234 C1 00 00 ";
+  const std::string streams = "F( 09[ 0500 E1F5 ] 15[] ) F( 0001 0002 F(" + all + ") 0003 0004 F() ) crc )";
+  const std::pair<std::string, std::string> sections[] = {
+      // behind the Pat, in the order of the classes in fuzz_sections.cpp
+      {"cat", "01" + start + "09[ 0500 E1F5 41 ] 09[ 0600 E001 ] crc )"},
+      {"pmt", "02" + start + "E1FF F( 09[ 0500 E1F5 ] ) 1B E100 F(" + all + ") 06 E101 F() crc )"},
+      {"nit", "40" + start + streams},
+      {"bat", "4A" + start + streams},
+      {"sdt", "42" + start + "0001 FF 0001 FD 8(" + all + ") 0002 FE 1() crc )"},
+      {"eit", "4E" + start + "0001 0002 00 4E 0001 C079124500 014530 8(" + all +
+                  ") 0002 C079124500 014530 1() crc )"},
+      {"tdt", "70 7( C079124500 )"},
+      {"tot", "73 7( C079124500 F( 58[ \"GBR\" 02 0100 C079124500 0000 ] 15[ AA ] ) 00000000 )"},
+      {"rst", "71 7( 0001 0002 0003 0004 05 0006 0007 0008 0009 02 )"},
+      {"dsm_cc", "3B" + start + "010203040506 crc )"},
+      {"ait", "74" + start + "F( 01[ \"eng\" [ \"a\" ] ] ) F( 00000015 0001 01 F(" + ait +
+                  ") 00000015 0002 02 F() ) crc )"},
+  };
+  constexpr unsigned int fitted = 3;
+  unsigned int number = 0;
+  for (auto const& [name, section] : sections) {
+    const auto choice = static_cast<unsigned char>(++number << 2 | fitted);
+    write(folder / ("rich-" + name), Bytes{choice} + sivane::testing::assemble(section));
+  }
+}
+
+/// A descriptor of every tag with a class, and of some without, `length` bytes each, behind the choice of the
+/// set.
+Bytes all_tags(unsigned char set, int last_tag, int length, int first_byte, int step) {
+  Bytes loop{set};
+  for (int tag = 0; tag <= last_tag; ++tag) {
     Bytes body;
     for (int i = 0; i < length; ++i) body.push_back(static_cast<unsigned char>(first_byte + i * step));
     loop = std::move(loop) + sivane::testing::make_descriptor(tag, body);
@@ -122,19 +169,24 @@ Bytes all_tags(int length, int first_byte, int step) {
 }
 
 void write_descriptors(fs::path const& folder) {
+  constexpr unsigned char dvb = 0, ait = 1;
   for (const int length : {0, 1, 3, 5, 9, 26}) {
     const std::string name = "all-tags-" + std::to_string(length);
-    write(folder / (name + "-zeros"), all_tags(length, 0x00, 0));
-    write(folder / (name + "-counting"), all_tags(length, 0x01, 1));
+    write(folder / (name + "-zeros"), all_tags(dvb, 0x80, length, 0x00, 0));
+    write(folder / (name + "-counting"), all_tags(dvb, 0x80, length, 0x01, 1));
+    write(folder / ("ait-tags-" + std::to_string(length)), all_tags(ait, 0x0E, length, 0x00, 1));
   }
+  write(folder / "ait-all", Bytes{ait} + sivane::testing::assemble(one_of_each({"ait"})));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
-  write_demux(fs::path(argv[1]) / "demux");
-  write_sections(fs::path(argv[1]) / "sections");
-  write_descriptors(fs::path(argv[1]) / "descriptors");
+  const fs::path corpora = argv[1];
+  write_demux(corpora / "demux");
+  write_sections(corpora / "sections");
+  write_rich_sections(corpora / "sections");
+  write_descriptors(corpora / "descriptors");
   return 0;
 }

@@ -8,9 +8,10 @@ void Cat::_parse(unsigned char const* body) {
   constexpr int ca_tag = 0x09;
   constexpr Failure invalid_size{error::no_errorcode, "invalid descriptor size"};
   constexpr Failure invalid_tag{error::no_errorcode, "invalid descriptor tag"};
-  Reader reader = Reader::within(body, body_reader(body).left(), invalid_size);
+  Reader reader = body_reader(body, invalid_size);
   while (reader.more()) {
     const DescriptorBytes descriptor = reader.descriptor();
+    if (reader.past_end()) raise(invalid_size);
     if (descriptor.tag() != ca_tag) raise(invalid_tag);
     ParseDescriptor(descriptor);
   }

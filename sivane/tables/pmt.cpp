@@ -11,7 +11,6 @@ namespace sivane {
 
 namespace {
 
-constexpr int head_size = 4;
 constexpr int entry_head_size = 5;
 
 int pid_field(Reader& reader) {
@@ -77,8 +76,7 @@ void PmtStreamInfo::dump_state(std::ostream& os) const {
 }
 
 void Pmt::_parse(unsigned char const* body) {
-  Reader reader = body_reader(body);
-  reader.need(head_size, too_little_data);
+  Reader reader = body_reader(body, start_end_mismatch);
   pcr_pid = pid_field(reader);
   const int program_info_length = length_field(reader);
   if (!parse_descriptors(reader, program_info_length, start_end_mismatch)) raise(start_end_mismatch);

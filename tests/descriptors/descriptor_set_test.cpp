@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <numeric>
+#include <sstream>
 #include <type_traits>
 
 #include "descriptor_check.h"
@@ -10,9 +11,10 @@
 namespace sivane::testing {
 namespace {
 
-static_assert(sizeof(DescriptorSet) <= 64);
-static_assert(std::is_nothrow_move_constructible_v<DescriptorSet> &&
-              std::is_nothrow_move_assignable_v<DescriptorSet>);
+template <class Set>
+constexpr bool is_light =
+    sizeof(Set) <= 64 && std::is_nothrow_move_constructible_v<Set>&& std::is_nothrow_move_assignable_v<Set>;
+static_assert(is_light<DescriptorSet> && is_light<AitDescriptorSet>);
 // No destructor to call through the base, so no descriptor is deleted through it.
 static_assert(!std::is_destructible_v<DescriptorBase> && !std::has_virtual_destructor_v<DescriptorBase>);
 template <class Descriptor>
@@ -23,53 +25,145 @@ constexpr bool is_plain_value =
 static_assert(is_plain_value<DescriptorGeneral>);
 #define SIVANE_ROW(tag, Class, getter, element, tag_text) static_assert(is_plain_value<Class>);
 #include <sivane/descriptors/descriptor_rows.inc>
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+  static_assert(is_plain_value<Class> && std::is_base_of_v<DescriptorAitBase, Class>);
+#include <sivane/descriptors/ait_descriptor_rows.inc>
 
-void parse(DescriptorSet& set, Bytes const& descriptor) { set.ParseDescriptor(descriptor.data()); }
-void parse(DescriptorSet& set, char const* descriptor) { parse(set, hex(descriptor)); }
+template <class Set>
+void parse(Set& set, Bytes const& descriptor) {
+  file(set, descriptor.data());
+}
+template <class Set>
+void parse(Set& set, char const* descriptor) {
+  parse(set, hex(descriptor));
+}
 
 /// The longest one of at most 40 body bytes that the class of `tag` accepts, bytes that count up if possible.
+template <class Set>
 Bytes valid_descriptor(int tag) {
   for (const bool counting : {true, false}) {
     for (std::size_t length = 40; length > 0; --length) {
       Bytes body(length);
       if (counting) std::iota(body.begin(), body.end(), static_cast<unsigned char>(1));
       Bytes descriptor = make_descriptor(tag, body);
-      DescriptorSet set;
+      Set set;
       if (thrown([&] { parse(set, descriptor); }).empty()) return descriptor;
     }
   }
   return make_descriptor(tag, {});
 }
 
-std::string dump_all(DescriptorSet const& set) {
+template <class Set>
+std::string dump_all(Set const& set) {
   std::string text;
-  for (Row const& row : row_list()) text += row.dump(set);
+  for (RowOf<Set> const& row : row_list<Set>()) text += row.dump(set);
   return text;
 }
 
-std::size_t count_all(DescriptorSet const& set) {
-  return std::accumulate(row_list().begin(), row_list().end(), std::size_t{},
-                         [&](std::size_t sum, Row const& row) { return sum + row.count(set); });
+template <class Set>
+std::size_t count_all(Set const& set) {
+  return std::accumulate(row_list<Set>().begin(), row_list<Set>().end(), std::size_t{},
+                         [&](std::size_t sum, RowOf<Set> const& row) { return sum + row.count(set); });
 }
 
-TEST(DescriptorSet, EachTagFillsOneVectorAndLeavesTheOthersEmpty) {
-  EXPECT_EQ(row_list().size(), 71u);
-  DescriptorSet all;
-  for (Row const& filled : row_list()) {
-    const Bytes descriptor = valid_descriptor(filled.tag);
-    DescriptorSet set;
+template <class Set>
+class EitherSet : public ::testing::Test {};
+using Sets = ::testing::Types<DescriptorSet, AitDescriptorSet>;
+TYPED_TEST_SUITE(EitherSet, Sets);
+
+TYPED_TEST(EitherSet, EachTagFillsOneVectorAndLeavesTheOthersEmpty) {
+  EXPECT_EQ(row_list<TypeParam>().size(), (std::is_same_v<TypeParam, DescriptorSet> ? 71u : 16u));
+  TypeParam all;
+  for (RowOf<TypeParam> const& filled : row_list<TypeParam>()) {
+    const Bytes descriptor = valid_descriptor<TypeParam>(filled.tag);
+    TypeParam set;
     parse(set, descriptor);
     parse(all, descriptor);
-    for (Row const& row : row_list()) {
+    for (RowOf<TypeParam> const& row : row_list<TypeParam>()) {
       EXPECT_EQ(row.count(set), &row == &filled ? 1u : 0u) << filled.getter << ", " << row.getter;
     }
   }
-  for (Row const& row : row_list()) EXPECT_EQ(row.count(all), 1u) << row.getter;
+  for (RowOf<TypeParam> const& row : row_list<TypeParam>()) EXPECT_EQ(row.count(all), 1u) << row.getter;
+}
+
+TYPED_TEST(EitherSet, CopiesAreIndependentAndMovesTakeEverything) {
+  TypeParam set;
+  for (RowOf<TypeParam> const& row : row_list<TypeParam>()) {
+    parse(set, valid_descriptor<TypeParam>(row.tag));
+    parse(set, valid_descriptor<TypeParam>(row.tag));
+  }
+  const std::string dump = dump_all(set);
+  const std::size_t count = count_all(set);
+  ASSERT_EQ(count, 2 * row_list<TypeParam>().size());
+
+  TypeParam copy(set);
+  parse(copy, "7F 01 11");
+  EXPECT_EQ(count_all(copy), count + 1);
+  EXPECT_EQ(dump_all(set), dump);
+  copy = set;
+  EXPECT_EQ(dump_all(copy), dump);
+  TypeParam& same = copy;
+  copy = same;
+  EXPECT_EQ(dump_all(copy), dump);
+
+  TypeParam moved(std::move(copy));
+  EXPECT_EQ(dump_all(moved), dump);
+  TypeParam assigned;
+  parse(assigned, "0A 04 00 01 00 02");
+  assigned = std::move(moved);
+  EXPECT_EQ(dump_all(assigned), dump);
+  assigned = TypeParam();
+  EXPECT_EQ(count_all(assigned), 0u);
+  EXPECT_EQ(dump_all(set), dump);
+}
+
+TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAlone) {
+  TypeParam set, none;
+  none.clear_general_descriptors();
+  EXPECT_EQ(count_all(none), 0u);
+  for (RowOf<TypeParam> const& row : row_list<TypeParam>()) parse(set, valid_descriptor<TypeParam>(row.tag));
+  parse(set, "7F 01 11");
+  const TypeParam copy(set);
+  set.clear_general_descriptors();
+  EXPECT_EQ(set.get_general_descriptors().size(), 0u);
+  EXPECT_EQ(count_all(set), row_list<TypeParam>().size() - 1);
+  EXPECT_EQ(copy.get_general_descriptors().size(), 2u);
+  parse(set, "7F 01 11");
+  EXPECT_EQ(set.get_general_descriptors().size(), 1u);
+}
+
+TEST(DescriptorSet, ClearedItIsAsNew) {
+  DescriptorSet set;
+  for (Row const& row : row_list()) parse(set, valid_descriptor<DescriptorSet>(row.tag));
+  const DescriptorSet copy(set);
+  set.clear_descriptors();
+  EXPECT_EQ(count_all(set), 0u);
+  EXPECT_EQ(count_all(copy), 71u);
+  parse(set, "52 01 11");
+  EXPECT_EQ(count_all(set), 1u);
+}
+
+TEST(AitDescriptorSet, DumpsEverythingRowByRow) {
+  AitDescriptorSet set;
+  for (auto row = row_list<AitDescriptorSet>().rbegin(); row != row_list<AitDescriptorSet>().rend(); ++row) {
+    parse(set, valid_descriptor<AitDescriptorSet>(row->tag));
+  }
+  std::ostringstream os;
+  set.dump_descriptors(os);
+  EXPECT_EQ(os.str(), dump_all(set));
+}
+
+TEST(AitDescriptorSet, TagsWithoutAClassAreFiledByWhetherTheyArePrivate) {
+  AitDescriptorSet set;
+  for (char const* const tag : {"0E 00", "7F 00", "80 00", "FF 00", "42 00"}) parse(set, tag);
+  EXPECT_EQ(set.get_general_descriptors().size(), 3u);
+  EXPECT_EQ(set.get_user_private_descriptors().size(), 2u);
 }
 
 TEST(DescriptorSet, GettersThatAreNotNamedLikeTheirClass) {
   DescriptorSet set;
-  for (const int tag : {0x47, 0x53, 0x5E, 0x63, 0x6D, 0x80, 0x00}) parse(set, valid_descriptor(tag));
+  for (const int tag : {0x47, 0x53, 0x5E, 0x63, 0x6D, 0x80, 0x00})
+    parse(set, valid_descriptor<DescriptorSet>(tag));
   EXPECT_EQ(set.get_bouquet_descriptors().size(), 1u);
   EXPECT_EQ(set.get_CA_identifiers_descriptors().size(), 1u);
   EXPECT_EQ(set.get_multilingual_component_descriptors().size(), 1u);
@@ -136,36 +230,6 @@ TEST(DescriptorSet, WhatThrowsIsNotFiled) {
   EXPECT_TRUE(throws([&] { parse(set, "49 00"); }, error::length_error, "country_availability_descriptor"));
   EXPECT_EQ(set.get_teletext_descriptors().size(), 1u);
   EXPECT_EQ(count_all(set), 1u);
-}
-
-TEST(DescriptorSet, CopiesAreIndependentAndMovesTakeEverything) {
-  DescriptorSet set;
-  for (Row const& row : row_list()) {
-    parse(set, valid_descriptor(row.tag));
-    parse(set, valid_descriptor(row.tag));
-  }
-  const std::string dump = dump_all(set);
-  ASSERT_EQ(count_all(set), 142u);
-
-  DescriptorSet copy(set);
-  parse(copy, "52 01 11");
-  EXPECT_EQ(count_all(copy), 143u);
-  EXPECT_EQ(dump_all(set), dump);
-  copy = set;
-  EXPECT_EQ(dump_all(copy), dump);
-  DescriptorSet& same = copy;
-  copy = same;
-  EXPECT_EQ(dump_all(copy), dump);
-
-  DescriptorSet moved(std::move(copy));
-  EXPECT_EQ(dump_all(moved), dump);
-  DescriptorSet assigned;
-  parse(assigned, "09 04 00 01 00 02");
-  assigned = std::move(moved);
-  EXPECT_EQ(dump_all(assigned), dump);
-  assigned = DescriptorSet();
-  EXPECT_EQ(count_all(assigned), 0u);
-  EXPECT_EQ(dump_all(set), dump);
 }
 
 constexpr Failure mismatch{error::length_error, "the loop's own"};

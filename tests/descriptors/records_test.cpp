@@ -2,6 +2,9 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Records that a host builds from a bare pointer.
+#include <numeric>
+#include <type_traits>
+
 #include "descriptor_check.h"
 #include "spellers.h"
 
@@ -13,7 +16,13 @@ template <class Record>
 std::string taken(char const* text) {
   const HeapBlock bytes(hex(text));
   int consumed = -1;
-  const std::string failure = thrown([&] { Record(bytes.data(), bytes.size(), consumed); });
+  const std::string failure = thrown([&] {
+    if constexpr (std::is_constructible_v<Record, unsigned char*, int, int&>) {
+      Record(bytes.data(), bytes.size(), consumed);
+    } else {
+      Record(bytes.data(), consumed);
+    }
+  });
   return failure.empty() ? std::to_string(consumed) : failure;
 }
 
@@ -23,6 +32,11 @@ using Vbi = DescriptorVBIData::VBIServiceData;
 using Cell = DescriptorCellList::CellListData;
 using Link = DescriptorCellFrequncyLink::CellFrequencyLinkData;
 using Announcement = DescriptorAnnouncementSupport::AnnouncementSupportData;
+
+using Carousel = DescriptorAitTransportProtocol::TransportOC;
+using Ip = DescriptorAitTransportProtocol::TransportIP;
+using ApplicationName = DescriptorAitApplicationName::ApplicationNameInfo;
+using PreFetch = DescriptorAitPreFetch::PreFetchInfo;
 
 struct Taken {
   std::string (*from)(char const*);
@@ -56,6 +70,14 @@ const Taken records[] = {
     {taken<Announcement>, "11 00 01 00 02 00 03 04", "8"},
     {taken<Announcement>, "12 00 01 00 02 00 03 04", "8"},
     {taken<Announcement>, "13 00 01 00 02 00 03 04", "8"},
+    {taken<Carousel>, "80 00 01 00 02 00 03 04", "8"},
+    {taken<Carousel>, "7F 04", "2"},
+    {taken<Ip>, "FF 00 01 00 02 00 03 80", "8"},
+    {taken<Ip>, "00 80", "2"},
+    {taken<ApplicationName>, "65 6E 67 00", "4"},
+    {taken<ApplicationName>, "65 6E 67 02 41 42", "6"},
+    {taken<PreFetch>, "00 07", "2"},
+    {taken<PreFetch>, "02 41 42 07", "4"},
 };
 
 TEST(Records, TellTheirSizeAndFailAsTheirDescriptorsDo) {
@@ -70,6 +92,51 @@ TEST(Records, SizeThatPlaysNoPart) {
   const HeapBlock cell(hex("04 00 00 01 80 01"));
   EXPECT_EQ(members(DescriptorMosiac::CellInfo(cell.data(), 1, consumed).bouquetinfo.bouquet_id, consumed),
             "8001 6");
+  const HeapBlock name(hex("65 6E 67 01 41"));
+  EXPECT_EQ(members(ApplicationName(name.data(), 0, consumed).application_name, consumed), "'A' 5");
+  const HeapBlock prefetch(hex("01 41 85"));
+  EXPECT_EQ(members(PreFetch(prefetch.data(), 0, consumed).prefetch_priority, consumed), "85 3");
+}
+
+TEST(Records, OfOneSizeNeedNoOther) {
+  const HeapBlock profile(hex("8001 85 06 FF"));
+  const DescriptorAitApplication::ApplicationProfile p(profile.data());
+  EXPECT_EQ(members(p.application_profile, p.version_major, p.version_minor, p.version_micro),
+            "8001 85 6 ff");
+  const HeapBlock authorised(hex("80000015 8001 85"));
+  const DescriptorAitExternalApplicationAuthorisation::AitExternalApplicationAuthorisationInfo a(
+      authorised.data());
+  EXPECT_EQ(members(a.application_identifer.organisation_id, a.application_identifer.application_id,
+                    a.application_priority),
+            "80000015 8001 85");
+  const HeapBlock ipv4(hex("85 C0A80101 8001 FFFFFF00"));
+  const DescriptorAitRoutingIPv4::RoutingIPv4Info v4(ipv4.data());
+  EXPECT_EQ(members(v4.component_tag, v4.address, v4.port_number, v4.address_mask),
+            "85 c0a80101 8001 ffffff00");
+  Bytes counting(35);
+  std::iota(counting.begin(), counting.end(), static_cast<unsigned char>(0));
+  const HeapBlock ipv6(counting);
+  const DescriptorAitRoutingIPv6::RoutingIPv6Info v6(ipv6.data());
+  EXPECT_EQ(members(v6.component_tag, v6.port_number), "0 1112");
+  EXPECT_EQ(Bytes(v6.get_address(), v6.get_address() + 16),
+            Bytes(counting.begin() + 1, counting.begin() + 17));
+  EXPECT_EQ(Bytes(v6.get_address_mask(), v6.get_address_mask() + 16),
+            Bytes(counting.begin() + 19, counting.end()));
+  const HeapBlock dii(hex("FFFE 8001"));
+  const DescriptorAitDIILocation::DIILocationInfo d(dii.data());
+  EXPECT_EQ(members(d.DII_identification, d.association_tag), "7ffe 8001");
+}
+
+// What the dumps of an AIT's descriptors do not show.
+TEST(Records, MembersBehindTheDumps) {
+  const DescriptorAitTransportProtocol oc(hex("02 0B 0001 85 80 8081 8283 8485 86").data());
+  EXPECT_EQ(
+      members(oc.transport_protocol_label, oc.transport_OC.service_id, oc.transport_IP.remote_connection),
+      "85 8485 0");
+  const DescriptorAitTransportProtocol other(hex("02 05 0003 85 80 81").data());
+  EXPECT_EQ(members(other.transport_OC.remote_connection, other.transport_IP.remote_connection), "0 0");
+  const DescriptorAitApplicationIcons icons(hex("0B 05 02 41 00 00 01").data());
+  EXPECT_EQ(members(icons.icon_locator, icons.icon_flags), "'A\\00' 1");
 }
 
 TEST(Records, ItemTakesWhatItNeedsOfTheSize) {

@@ -24,9 +24,9 @@ std::string dumped(Descriptor const& descriptor) {
   return os.str();
 }
 
-/// A dump as the case files write it. A backslash at the end stands for a line that was not ended, and what
-/// keeps blanks from ending a line is that the last of them is written as a byte.
-std::string dump_lines(std::string const& dump) {
+/// Lines of a dump as the case files write them. A backslash at the end stands for a line that was not ended,
+/// and what keeps blanks from ending a line is that the last of them is written as a byte.
+std::string dump_lines(std::string const& dump, std::string const& keyword) {
   std::string text;
   std::istringstream lines(dump);
   for (std::string line; std::getline(lines, line);) {
@@ -34,9 +34,28 @@ std::string dump_lines(std::string const& dump) {
     line = printable(line);
     if (open) line += '\\';
     if (line.ends_with(' ')) line.replace(line.size() - 1, 1, "\\20");
-    text += (text.empty() ? "" : "dump   ") + line + '\n';
+    text += keyword + line + '\n';
   }
   return text;
+}
+
+/// What `_reset` leaves, if that is not everything: of classes with a speller the members, of others the
+/// dump.
+template <class Descriptor>
+std::string left_by_reset(Descriptor& descriptor) {
+  const auto lines = [&descriptor] {
+    if constexpr (requires { spell(descriptor); }) {
+      return "reset  " + spell(descriptor) + '\n';
+    } else {
+      const std::string dump = dumped(descriptor);
+      return dump_lines(dump.substr(dump.find('\n') + 1), "reset  ");
+    }
+  };
+  const std::string before = lines();
+  descriptor._reset();
+  const std::string left = lines();
+  if (left == before) return "";
+  return left.empty() ? "reset  -\n" : left;
 }
 
 template <class Descriptor>
@@ -48,53 +67,70 @@ std::string written(Descriptor descriptor, unsigned char const* bytes) {
   constexpr std::string_view label = "descriptor_tag: ";
   const std::string dump = dumped(descriptor);
   EXPECT_TRUE(dump.starts_with(label)) << dump;
-  std::string text = dump_lines(dump.substr(label.size()));
-  const std::string values = spell(descriptor);
-  descriptor._reset();
+  const std::size_t behind_title = dump.find('\n') + 1;
+  std::string text = dump.substr(label.size(), behind_title - label.size());
+  if constexpr (requires { spell(descriptor); }) text += "member " + spell(descriptor) + '\n';
+  text += left_by_reset(descriptor);
   expect_head();
-  const std::string left = spell(descriptor);
-  const std::string reset = left != values ? "reset  " + left + '\n' : "";
-  return text.insert(text.find('\n') + 1, "member " + values + '\n' + reset);
+  return text + dump_lines(dump.substr(behind_title), "dump   ");
 }
 
-template <class Descriptor, auto getter>
-Row make_row(int tag, char const* name) {
+template <class Set, class Descriptor, auto getter>
+RowOf<Set> make_row(int tag, char const* name) {
   return {tag,
           name,
-          [](DescriptorSet const& set) { return (set.*getter)().size(); },
-          [](DescriptorSet const& set) {
+          [](Set const& set) { return (set.*getter)().size(); },
+          [](Set const& set) {
             std::string text;
             for (Descriptor const& descriptor : (set.*getter)()) text += dumped(descriptor);
             return text;
           },
-          [](DescriptorSet const& set, unsigned char const* bytes) {
-            return written((set.*getter)().at(0), bytes);
-          },
+          [](Set const& set, unsigned char const* bytes) { return written((set.*getter)().at(0), bytes); },
           [](unsigned char const* bytes) { return written(Descriptor(bytes), bytes); }};
 }
 
 }  // namespace
 
-std::vector<Row> const& row_list() {
-  static const std::vector<Row> rows = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  make_row<Class, &DescriptorSet::getter>(tag, #getter),
+template <>
+std::vector<RowOf<DescriptorSet>> const& row_list() {
+  using Set = DescriptorSet;
+  static const std::vector<RowOf<Set>> rows = {
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) make_row<Set, Class, &Set::getter>(tag, #getter),
 #define SIVANE_GENERAL_ROW(kind, getter, element) \
-  make_row<DescriptorGeneral, &DescriptorSet::getter>(kind, #getter),
+  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter),
 #include <sivane/descriptors/descriptor_rows.inc>
   };
   return rows;
 }
 
-Row const& row_of(int tag) {
-  const int filed_as = has_class(tag) ? tag : tag < 0x80 ? other : user_private;
-  return *std::find_if(row_list().begin(), row_list().end(),
-                       [&](Row const& row) { return row.tag == filed_as; });
+template <>
+std::vector<RowOf<AitDescriptorSet>> const& row_list() {
+  using Set = AitDescriptorSet;
+  static const std::vector<RowOf<Set>> rows = {
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) make_row<Set, Class, &Set::getter>(tag, #getter),
+#define SIVANE_GENERAL_ROW(kind, getter, element) \
+  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter),
+#include <sivane/descriptors/ait_descriptor_rows.inc>
+  };
+  return rows;
 }
 
+template <class Set>
+RowOf<Set> const& row_of(int tag) {
+  const int filed_as = has_class<Set>(tag) ? tag : tag < 0x80 ? other : user_private;
+  return *std::find_if(row_list<Set>().begin(), row_list<Set>().end(),
+                       [&](RowOf<Set> const& row) { return row.tag == filed_as; });
+}
+template RowOf<DescriptorSet> const& row_of(int);
+template RowOf<AitDescriptorSet> const& row_of(int);
+
+template <class Set>
 bool has_class(int tag) {
   return tag < 0x80 && tag != other &&
-         std::any_of(row_list().begin(), row_list().end(), [tag](Row const& row) { return row.tag == tag; });
+         std::any_of(row_list<Set>().begin(), row_list<Set>().end(),
+                     [tag](RowOf<Set> const& row) { return row.tag == tag; });
 }
+template bool has_class<DescriptorSet>(int);
+template bool has_class<AitDescriptorSet>(int);
 
 }  // namespace sivane::testing

@@ -4,6 +4,7 @@
 // The rows of a descriptor set as a list to walk in tests of all of them.
 #pragma once
 
+#include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
 #include <cstddef>
@@ -12,19 +13,25 @@
 
 namespace sivane::testing {
 
-struct Row {
+template <class Set>
+struct RowOf {
   int tag;  // for the two rows without a class, one of theirs
   char const* getter;
-  std::size_t (*count)(DescriptorSet const&);
-  std::string (*dump)(DescriptorSet const&);
+  std::size_t (*count)(Set const&);
+  std::string (*dump)(Set const&);
   /// A descriptor as the case files write it: the set's first one, and one made from a bare pointer.
-  std::string (*first)(DescriptorSet const&, unsigned char const* bytes);
+  std::string (*first)(Set const&, unsigned char const* bytes);
   std::string (*bare)(unsigned char const* bytes);
 };
+using Row = RowOf<DescriptorSet>;
 
-std::vector<Row> const& row_list();
+// For `DescriptorSet` and `AitDescriptorSet`.
+template <class Set = DescriptorSet>
+std::vector<RowOf<Set>> const& row_list();
 /// The row that a tag is filed in.
-Row const& row_of(int tag);
+template <class Set = DescriptorSet>
+RowOf<Set> const& row_of(int tag);
+template <class Set = DescriptorSet>
 bool has_class(int tag);
 
 }  // namespace sivane::testing

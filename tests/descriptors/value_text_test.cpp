@@ -93,7 +93,7 @@ void read_line(std::string const& line, Texts& texts) {
 
 std::map<std::string, Texts> read_texts() {
   std::map<std::string, Texts> all;
-  for (Block const& block : read_blocks("value_texts.txt")) {
+  for (Block const& block : read_blocks("descriptors/cases/value_texts.txt")) {
     for (Line const& line : block.lines) read_line(line.text, all[block.title]);
   }
   return all;

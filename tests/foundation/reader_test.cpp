@@ -159,6 +159,52 @@ TEST(Reader, SubReadersShareTheLimit) {
   EXPECT_EQ(reader.sub(2, named).rest(), (Bytes{4, 5}));
 }
 
+TEST(Reader, LoopsShareTheLimitAndMayClaimMore) {
+  const HeapBlock block(hex("01 02 03 04 05"));
+  Reader reader = Reader::within(block.data(), block.size());
+  reader.u8();
+  Reader loop = reader.loop(2, named);
+  EXPECT_EQ(loop.left(), 2);
+  EXPECT_EQ(loop.u32(), 0x02030405u);
+  EXPECT_TRUE(loop.past_end());
+  EXPECT_TRUE(fails_named([&] { loop.u8(); }));
+  Reader claims_more = reader.loop(99, named);
+  EXPECT_EQ(claims_more.left(), 99);
+  EXPECT_EQ(claims_more.u32(), 0x02030405u);
+  EXPECT_TRUE(claims_more.more());
+  EXPECT_TRUE(fails_named([&] { claims_more.u8(); }));
+  EXPECT_FALSE(reader.loop(-1, named).more());
+  EXPECT_EQ(reader.consumed(), 1);
+}
+
+TEST(Reader, EachDescriptorMayRunOverTheLoopButNotOverTheLimit) {
+  const HeapBlock block(hex("00 52 01 11 70 02 22 33 FF"));
+  struct Case {
+    int size;
+    bool exact;
+    std::vector<int> tags;
+  };
+  for (Case const& c : {Case{0, true, {}},
+                        {1, false, {0x52}},
+                        {3, true, {0x52}},
+                        {4, false, {0x52, 0x70}},
+                        {7, true, {0x52, 0x70}}}) {
+    Reader reader = Reader::within(block.data(), block.size());
+    reader.u8();
+    std::vector<int> tags;
+    EXPECT_EQ(reader.each_descriptor(c.size, named, [&](DescriptorBytes d) { tags.push_back(d.tag()); }),
+              c.exact);
+    EXPECT_EQ(tags, c.tags);
+    EXPECT_EQ(reader.consumed(), 1 + c.size);
+  }
+  Reader reader = Reader::within(block.data() + 1, block.size() - 1);
+  int seen = 0;
+  EXPECT_TRUE(fails_named([&] { reader.each_descriptor(8, named, [&](DescriptorBytes) { ++seen; }); }));
+  EXPECT_EQ(seen, 2);
+  // What stands behind a descriptor in the section is its own to read.
+  reader.each_descriptor(3, named, [](DescriptorBytes d) { EXPECT_EQ(d.body().u32(), 0x11700222u); });
+}
+
 TEST(Reader, ReadsWholeItemsUpToItsEnd) {
   struct Pair {
     explicit Pair(Reader& r) : first(r.u8()), second(r.u8()) {}

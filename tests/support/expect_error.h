@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace sivane::testing {
 
@@ -19,6 +20,25 @@ std::optional<error> caught_error(Action&& action) {
     return failure;
   }
   return std::nullopt;
+}
+
+/// The code and text of the `error` that `action` throws as the case files write them; nothing where it
+/// throws none.
+template <class Action>
+std::string thrown(Action&& action) {
+  const auto failure = caught_error(action);
+  if (!failure) return "";
+  const std::pair<error::errorcode_enum, char const*> names[] = {
+      {error::no_errorcode, "no_errorcode"},
+      {error::length_error, "length_error"},
+      {error::item_length_error, "item_length_error"},
+      {error::syntax_error, "syntax_error"}};
+  std::string text = "some other code";
+  for (auto const& [code, name] : names) {
+    if (code == failure->code) text = name;
+  }
+  const std::string message = failure->what();
+  return message.empty() ? text : text + ' ' + message;
 }
 
 /// For EXPECT_TRUE: whether `action` throws an `error` of this code and text.

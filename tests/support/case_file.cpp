@@ -9,7 +9,20 @@
 namespace sivane::testing {
 namespace {
 
-std::string path_of(std::string const& file) { return SIVANE_DESCRIPTOR_CASES "/" + file; }
+std::string path_of(std::string const& file) { return SIVANE_TESTS "/" + file; }
+
+/// Lines of a dump that stand in one, as one each.
+void append(std::vector<Line>& lines, Line line) {
+  const std::string key = line.text.substr(0, 7);
+  const std::string between = " | ";
+  if (key == "dump   " || key == "reset  ") {
+    for (std::size_t bar; (bar = line.text.find(between)) != std::string::npos;) {
+      lines.push_back({line.text.substr(0, bar), line.number});
+      line.text = key + line.text.substr(bar + between.size());
+    }
+  }
+  lines.push_back(std::move(line));
+}
 
 }  // namespace
 
@@ -24,7 +37,7 @@ std::vector<Block> read_blocks(std::string const& file) {
     if (text.empty()) {
       inside = false;
     } else if (inside) {
-      blocks.back().lines.push_back({text, number});
+      append(blocks.back().lines, {text, number});
     } else {
       blocks.push_back({text, {}});
       inside = true;

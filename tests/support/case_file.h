@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The files under cases/: blocks with an empty line between, each a title line and further lines. Lines that
-// begin with '#' are comments.
+// The case files: blocks with an empty line between, each a title line and further lines. Lines that begin
+// with '#' are comments; " | " in lines of dumps and resets stands for the beginning of a new line. Files are
+// named from the folder of the tests on.
 #pragma once
 
 #include <string>

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// What tables offer beside parsing, and what their dumps do to a stream.
+#include <gtest/gtest.h>
+#include <sivane/sivane.h>
+
+#include <functional>
+#include <iomanip>
+#include <map>
+#include <memory>
+#include <set>
+#include <sstream>
+
+#include "expect_error.h"
+#include "heap_block.h"
+#include "section_text.h"
+
+namespace sivane::testing {
+namespace {
+
+template <class Table>
+Table parsed(std::string const& section) {
+  Table table;
+  table.Parse(HeapBlock(assemble(section)).data());
+  return table;
+}
+
+template <class Object>
+std::string dumped(Object const& object, std::ios::fmtflags base = std::ios::dec) {
+  std::ostringstream os;
+  os.setf(base, std::ios::basefield);
+  object.dump_state(os);
+  return os.str();
+}
+
+/// Which table ids and syntax indicators a class takes, and its text for every id.
+template <class Table>
+void expect_identity(std::string const& section, std::set<int> const& ids, bool takes_either_indicator,
+                     std::function<std::string(int)> const& text) {
+  constexpr bool is_long = std::is_base_of_v<PsiTableBase, Table>;
+  for (int id = 0; id <= 0xFF; ++id) {
+    Bytes bytes = assemble(section);
+    bytes[0] = static_cast<unsigned char>(id);
+    if (is_long) repair_crc(bytes);
+    Table table;
+    EXPECT_EQ(thrown([&] { table.Parse(HeapBlock(bytes).data()); }),
+              ids.contains(id) ? "" : "no_errorcode invalid table id")
+        << id;
+    EXPECT_EQ(table.get_table_id_text(), text(id));
+  }
+  for (const int indicator : {0, 1}) {
+    const bool taken = takes_either_indicator || indicator == (is_long ? 1 : 0);
+    if constexpr (is_long) {
+      EXPECT_EQ(Table().is_valid_syntax_indicator(indicator), taken);
+    } else {
+      EXPECT_EQ(Table().is_syntax_indicator_valid(indicator), taken);
+    }
+  }
+}
+
+std::set<int> ids(int first, int last) {
+  std::set<int> all;
+  for (int id = first; id <= last; ++id) all.insert(id);
+  return all;
+}
+
+/// The text of each id that has one.
+std::function<std::string(int)> text_of(std::map<int, std::string> const& texts, std::string const& other) {
+  return [=](int id) { return texts.contains(id) ? texts.at(id) : other; };
+}
+
+TEST(TableClasses, TakeTheirIdsAndNameThem) {
+  expect_identity<Cat>("01 B( 0001 C1 00 00 crc )", {1}, false, text_of({}, "conditional_access_section"));
+  expect_identity<Pmt>("02 B( 0001 C1 00 00 E000 F() crc )", {2}, false, text_of({}, "program_map_section"));
+  expect_identity<Nit>("40 B( 0001 C1 00 00 F() F() crc )", {0x40, 0x41}, false,
+                       text_of({{0x40, "network_information_section - actual_transport_network"},
+                                {0x41, "network_information_section - other_transport_network"}},
+                               "ERROR"));
+  expect_identity<Bat>("4A B( 0001 C1 00 00 F() F() crc )", {0x4A}, false,
+                       text_of({{0x4A, "bouquet_association_section"}}, "ERROR"));
+  expect_identity<Sdt>("42 B( 0001 C1 00 00 0001 FF crc )", {0x42, 0x46}, false,
+                       text_of({{0x42, "service_description_section - actual_transport_stream"},
+                                {0x46, "service_description_section - other_transport_stream"}},
+                               "ERROR"));
+  expect_identity<Tdt>("70 7( C079124500 )", {0x70}, false, text_of({}, "time_date_section"));
+  expect_identity<Tot>("73 7( C079124500 F() 00000000 )", {0x73}, false, text_of({}, "time_offset_section"));
+  expect_identity<Rst>("71 7()", {0x71}, false, text_of({}, "running_status_section"));
+  expect_identity<Ait>("74 B( 0001 C1 00 00 F() F() crc )", ids(0, 0xFF), true, text_of({}, "ait"));
+  expect_identity<DsmCC>("3B B( 0001 C1 00 00 crc )", {0x3B, 0x3C}, true, text_of({}, "DSMCC"));
+
+  const auto event_text = [](int id) -> std::string {
+    if (id < 0x4E || id > 0x6F) return "<unknown>";
+    const bool is_actual = id == 0x4E || (id >= 0x50 && id <= 0x5F);
+    return std::string("event_information_section - ") + (is_actual ? "actual" : "other") +
+           "_transport_stream, " + (id <= 0x4F ? "present/following" : "schedule");
+  };
+  expect_identity<Eit>("4E B( 0001 C1 00 00 0001 0001 00 4E crc )", ids(0x4E, 0x6F), false, event_text);
+  for (int id = -1; id <= 0x100; ++id) EXPECT_EQ(Eit::get_table_id_text(id), event_text(id)) << id;
+}
+
+TEST(TableClasses, HeadersByOtherNames) {
+  std::map<int, std::string> const types = {{0, "reserved_future_use"},
+                                            {1, "DVB-J application"},
+                                            {2, "DVB-HTML application"},
+                                            {3, "subject to registration with DVB"},
+                                            {0x8001, "subject to registration with DVB"}};
+  for (auto const& [type, text] : types) {
+    Ait ait;
+    ait.context_id = type;
+    EXPECT_EQ(ait.get_application_type(), type);
+    EXPECT_EQ(ait.get_application_type_text(), text);
+  }
+  EXPECT_EQ(parsed<DsmCC>("3B B( 8001 C1 00 00 crc )").get_table_extension(), 0x8001);
+  const Bat bat = parsed<Bat>("4A B( 0001 C1 00 00 F() F( 0001 0002 F() 0003 0004 F() ) crc )");
+  EXPECT_EQ(&bat.get_stream_infos(), &bat.stream_infos);
+}
+
+/// What an entry at a bare pointer says that it took with `size` bytes said to be left, or throws.
+template <class Entry>
+std::string taken(std::string const& bytes, int size) {
+  const HeapBlock block(assemble(bytes));
+  const std::string failure = thrown([&] {
+    if constexpr (std::is_constructible_v<Entry, unsigned char*, int, int&>) {
+      Entry(block.data(), size, size);
+    } else if constexpr (std::is_constructible_v<Entry, _PMT_INFO*, int&>) {
+      Entry(reinterpret_cast<_PMT_INFO*>(block.data()), size);
+    } else {
+      Entry(block.data(), size);
+    }
+  });
+  return failure.empty() ? std::to_string(size) : failure;
+}
+
+struct Taken {
+  std::string (*from)(std::string const& bytes, int size);
+  char const* bytes;
+  int size;
+  char const* expected;
+};
+
+const Taken entries[] = {
+    {taken<PmtStreamInfo>, "02 E101 F( 52[ 07 ] )", 5, "8"},
+    {taken<PmtStreamInfo>, "02 E101 F()", 99, "5"},
+    {taken<PmtStreamInfo>, "02 E101 F()", 4, "no_errorcode too little data"},
+    {taken<PmtStreamInfo>, "02 E101 F(-1 52[ 07 ] )", 99, "no_errorcode descriptor start end mismatch"},
+    {taken<Nit::Stream_info>, "0001 0002 F( 52[ 07 ] )", 6, "9"},
+    {taken<Nit::Stream_info>, "0001 0002 F()", 5, "no_errorcode too little data"},
+    {taken<Bat::Stream_info>, "0001 0002 F( 52[ 07 ] )", 6, "9"},
+    {taken<Bat::Stream_info>, "0001 0002 F()", 5, "no_errorcode too little data"},
+    {taken<Sdt::Service_info>, "0001 FC 8( 52[ 07 ] )", 5, "8"},
+    {taken<Sdt::Service_info>, "0001 FC 8()", 4, "no_errorcode too little data"},
+    {taken<Eit::EventInfo>, "0001 C079124500 014530 8( 52[ 07 ] )", 0, "15"},
+    {taken<Rst::Status>, "0001 0002 0003 0004 05", 0, "9"},
+    {taken<Ait::Application>, "00000015 0001 01 F( 01[] )", 9, "11"},
+    {taken<Ait::Application>, "00000015 0001 01 F()", 8, "length_error application length to small"},
+    {taken<Ait::Application>, "00000015 0001 01 F( 0D[] )", 11, "length_error dii_location_descriptor: 1"}};
+
+TEST(Entries, TellTheirSizeAndFailAsTheirTablesDo) {
+  for (auto const& [from, bytes, size, expected] : entries) EXPECT_EQ(from(bytes, size), expected) << bytes;
+}
+
+TEST(Entries, DumpInTheStreamsFill) {
+  int size = 99;
+  const HeapBlock stream(assemble("0B E100 F( 52[ 0F ] )"));
+  const PmtStreamInfo info(reinterpret_cast<_PMT_INFO*>(stream.data()), size);
+  EXPECT_EQ(info.es_info_length, 3);
+  EXPECT_EQ(dumped(info),
+            "stream_type:  b\nelementary_PID:  100\n"
+            "descriptor_tag: 52 stream_identifier_descriptor\ncomponent_tag: f\n");
+  const HeapBlock event(assemble("00AB C079124500 014530 9( 4F[ 0001 0002 ] 15[ 0102030405 ] )"));
+  EXPECT_EQ(dumped(Eit::EventInfo(event.data(), size)),
+            "event_id:   ab\nrunning_status: 4\nfree_CA_mode: 1\ndescriptors_length: d\n"
+            "start_time: 13/10-1993 12:45:0\nduration: 1:45:30\n");
+}
+
+TEST(ShortTables, DumpInTheStreamsBase) {
+  EXPECT_EQ(dumped(parsed<Rst>("71 7( 0441 217C 0001 ABCD FC )"), std::ios::hex),
+            "table_id: 71\nsection_length: 9\ntransport_stream_id: 441\noriginal_network_id: 217c\n"
+            "service_id: 1\nevent_id: abcd\nrunning_status: 4\n");
+  // The time turns to decimal.
+  EXPECT_EQ(dumped(parsed<Tot>("73 7( C079124500 F() DEADBEEF )"), std::ios::hex),
+            "table_id: 73\nsection_length: b\nUTC_time: 13/10-1993 12:45:0\ncrc32: 3735928559\n");
+}
+
+constexpr char const* protected_program =
+    "02 B( 1234 C1 00 00 E1FF F( 09[ 0500 E001 ] 15[] 0A[ \"engA\" ] ) 02 E100 F( 09[ 0500 E002 ]"
+    " 09[ 0500 E003 ] 15[] 56[] ) 03 E101 F() 04 E102 F( 09[ 0500 E004 ] ) crc )";
+
+TEST(Pmt, CollectsCaDescriptorsBehindWhatIsThere) {
+  std::vector<DescriptorCa> found(1);
+  parsed<Pmt>(protected_program).get_all_ca_descriptors(found);
+  std::vector<int> pids;
+  for (DescriptorCa const& descriptor : found) pids.push_back(descriptor.pid);
+  EXPECT_EQ(pids, (std::vector<int>{0, 1, 2, 3, 4}));
+}
+
+TEST(Pmt, PrintsTheHostsDescriptorsUntilReset) {
+  Pmt pmt = parsed<Pmt>(protected_program);
+  pmt.descriptors.push_back(std::make_shared<DescriptorGeneral const>(0x3E, nullptr, 0));
+  pmt.stream_infos[0].descriptors.push_back(std::make_shared<DescriptorGeneral const>(0x3F, nullptr, 0));
+  const Pmt copy = pmt;
+  pmt.reset();
+  EXPECT_TRUE(pmt.descriptors.empty());
+  const std::string dump = dumped(copy);
+  EXPECT_NE(dump.find("15 Reserved\ndata:\ndescriptor_tag: 3E Reserved\ndata:\ndescriptor_tag: 0A "),
+            dump.npos);
+  EXPECT_NE(dump.find("15 Reserved\ndata:\ndescriptor_tag: 3F Reserved\ndata:\ndescriptor_tag: 56 "),
+            dump.npos);
+}
+
+TEST(Pmt, CountsItsStreamsInHexadecimal) {
+  std::string section = "02 B( 1234 C1 00 00 E1FF F()";
+  for (int i = 0; i < 16; ++i) section += " 02 E100 F()";
+  EXPECT_NE(dumped(parsed<Pmt>(section + " crc )")).find("\nDumping 10 stream infos\n"), std::string::npos);
+}
+
+TEST(Pmt, PutsBackFlagsAndWidthAndNotTheFill) {
+  const Pmt pmt = parsed<Pmt>(protected_program);
+  std::ostringstream os;
+  os << std::left << std::dec << std::setfill('*') << std::setw(5);
+  const auto flags = os.flags();
+  pmt._dump_state(os);
+  EXPECT_EQ(os.flags(), flags);
+  EXPECT_EQ(os.width(), 5);
+  EXPECT_EQ(os.fill(), '0');
+  EXPECT_TRUE(os.str().starts_with("program_number: 1234\nversion_number: 00\n")) << os.str();
+}
+
+}  // namespace
+}  // namespace sivane::testing
