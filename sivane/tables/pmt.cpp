@@ -76,7 +76,7 @@ void PmtStreamInfo::dump_state(std::ostream& os) const {
 }
 
 void Pmt::_parse(unsigned char const* body) {
-  Reader reader = body_reader(body, start_end_mismatch);
+  Reader reader = body_reader(body);
   pcr_pid = pid_field(reader);
   const int program_info_length = length_field(reader);
   if (!parse_descriptors(reader, program_info_length, start_end_mismatch)) raise(start_end_mismatch);

@@ -40,9 +40,9 @@ class SIVANE_API PmtStreamInfo : public DescriptorSet {
 /// program_number. Accepts table id 0x02. Its dump prints the descriptors of eight kinds, its entries' those
 /// of ten.
 ///
-/// Throws "too little data" where fewer than 5 bytes are left for an entry, "descriptor start end mismatch"
-/// where the program's descriptors do not end at their length, the entries do not end at the CRC or
-/// section_length is below 13.
+/// Throws "too little data" where the head leaves the section or fewer than 5 bytes are left for an entry,
+/// "descriptor start end mismatch" where the program's descriptors do not end at their length or the entries
+/// at the CRC.
 class SIVANE_API Pmt final : public PsiTableBase, public DescriptorSet {
  public:
   SIVANE_TABLE

@@ -6,7 +6,7 @@
 #include <type_traits>
 
 #include "descriptor_check.h"
-#include "spellers.h"
+#include "spell.h"
 
 namespace sivane::testing {
 namespace {
@@ -127,8 +127,10 @@ TEST(Records, OfOneSizeNeedNoOther) {
   EXPECT_EQ(members(d.DII_identification, d.association_tag), "7ffe 8001");
 }
 
-// What the dumps of an AIT's descriptors do not show.
+// What neither dumps nor case files show.
 TEST(Records, MembersBehindTheDumps) {
+  const DescriptorDataBroadcastId data(hex("66 04 8001 AABB").data());
+  EXPECT_EQ(members(data.id_selector_byte), "<aabb>");
   const DescriptorAitTransportProtocol oc(hex("02 0B 0001 85 80 8081 8283 8485 86").data());
   EXPECT_EQ(
       members(oc.transport_protocol_label, oc.transport_OC.service_id, oc.transport_IP.remote_connection),

@@ -9,7 +9,8 @@
 #include <string_view>
 #include <tuple>
 
-#include "spellers.h"
+#include "memory_dom.h"
+#include "spell.h"
 
 namespace sivane::testing {
 namespace {
@@ -39,27 +40,40 @@ std::string dump_lines(std::string const& dump, std::string const& keyword) {
   return text;
 }
 
-/// What `_reset` leaves, if that is not everything: of classes with a speller the members, of others the
-/// dump.
+/// What is saved of a descriptor behind its head, an element a line.
 template <class Descriptor>
-std::string left_by_reset(Descriptor& descriptor) {
-  const auto lines = [&descriptor] {
-    if constexpr (requires { spell(descriptor); }) {
-      return "reset  " + spell(descriptor) + '\n';
-    } else {
-      const std::string dump = dumped(descriptor);
-      return dump_lines(dump.substr(dump.find('\n') + 1), "reset  ");
-    }
-  };
-  const std::string before = lines();
+std::string saved_lines(Descriptor const& descriptor, char16_t const* element, std::string const& keyword) {
+  MemoryDom dom;
+  auto const saved = dom.element(element);
+  EXPECT_TRUE(descriptor.SaveSection(dom.document().get(), saved.get()));
+  EXPECT_EQ(take_attribute(saved.get(), 0), "descriptor_id");
+  EXPECT_EQ(take_attribute(saved.get(), 0), "descriptor_length");
+  std::istringstream lines(written(saved.get()));
+  std::string text;
+  for (std::string line; std::getline(lines, line);) text += keyword + line + '\n';
+  return text;
+}
+
+/// Those of a DVB descriptor as it is saved, of an AIT's as it is dumped.
+template <class Descriptor>
+std::string member_lines(Descriptor const& descriptor, char16_t const* element, std::string const& keyword) {
+  if (element != nullptr) return saved_lines(descriptor, element, keyword);
+  const std::string dump = dumped(descriptor);
+  return dump_lines(dump.substr(dump.find('\n') + 1), keyword);
+}
+
+/// What `_reset` leaves, if that is not everything.
+template <class Descriptor>
+std::string left_by_reset(Descriptor& descriptor, char16_t const* element) {
+  const std::string before = member_lines(descriptor, element, "reset  ");
   descriptor._reset();
-  const std::string left = lines();
+  const std::string left = member_lines(descriptor, element, "reset  ");
   if (left == before) return "";
   return left.empty() ? "reset  -\n" : left;
 }
 
 template <class Descriptor>
-std::string written(Descriptor descriptor, unsigned char const* bytes) {
+std::string case_text(Descriptor descriptor, char16_t const* element, unsigned char const* bytes) {
   const auto expect_head = [&] {
     EXPECT_EQ(std::tuple(descriptor.tag, descriptor.length), std::tuple(bytes[0], bytes[1]));
   };
@@ -69,24 +83,29 @@ std::string written(Descriptor descriptor, unsigned char const* bytes) {
   EXPECT_TRUE(dump.starts_with(label)) << dump;
   const std::size_t behind_title = dump.find('\n') + 1;
   std::string text = dump.substr(label.size(), behind_title - label.size());
-  if constexpr (requires { spell(descriptor); }) text += "member " + spell(descriptor) + '\n';
-  text += left_by_reset(descriptor);
+  if (element != nullptr) text += saved_lines(descriptor, element, "xml    ");
+  text += left_by_reset(descriptor, element);
   expect_head();
   return text + dump_lines(dump.substr(behind_title), "dump   ");
 }
 
 template <class Set, class Descriptor, auto getter>
-RowOf<Set> make_row(int tag, char const* name) {
+RowOf<Set> make_row(int tag, char const* name, char16_t const* element) {
   return {tag,
           name,
+          element,
           [](Set const& set) { return (set.*getter)().size(); },
           [](Set const& set) {
             std::string text;
             for (Descriptor const& descriptor : (set.*getter)()) text += dumped(descriptor);
             return text;
           },
-          [](Set const& set, unsigned char const* bytes) { return written((set.*getter)().at(0), bytes); },
-          [](unsigned char const* bytes) { return written(Descriptor(bytes), bytes); }};
+          [](Set const& set, char16_t const* its_element, unsigned char const* bytes) {
+            return case_text((set.*getter)().at(0), its_element, bytes);
+          },
+          [](char16_t const* its_element, unsigned char const* bytes) {
+            return case_text(Descriptor(bytes), its_element, bytes);
+          }};
 }
 
 }  // namespace
@@ -95,9 +114,10 @@ template <>
 std::vector<RowOf<DescriptorSet>> const& row_list() {
   using Set = DescriptorSet;
   static const std::vector<RowOf<Set>> rows = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) make_row<Set, Class, &Set::getter>(tag, #getter),
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+  make_row<Set, Class, &Set::getter>(tag, #getter, u"" element),
 #define SIVANE_GENERAL_ROW(kind, getter, element) \
-  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter),
+  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter, u"" element),
 #include <sivane/descriptors/descriptor_rows.inc>
   };
   return rows;
@@ -107,9 +127,10 @@ template <>
 std::vector<RowOf<AitDescriptorSet>> const& row_list() {
   using Set = AitDescriptorSet;
   static const std::vector<RowOf<Set>> rows = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) make_row<Set, Class, &Set::getter>(tag, #getter),
+#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+  make_row<Set, Class, &Set::getter>(tag, #getter, nullptr),
 #define SIVANE_GENERAL_ROW(kind, getter, element) \
-  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter),
+  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter, nullptr),
 #include <sivane/descriptors/ait_descriptor_rows.inc>
   };
   return rows;

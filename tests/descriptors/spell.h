@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Members as text: numbers in hexadecimal, doubles with all their digits, strings in quotes, bytes in angle
-// brackets, lists in square ones, records in braces.
+// brackets, lists in square ones.
 #pragma once
 
 #include <charconv>
@@ -46,11 +46,6 @@ inline std::string spelled(std::vector<unsigned char> const& bytes) {
   std::string text = "<";
   for (const unsigned char byte : bytes) text += two_digits(byte);
   return text + ">";
-}
-
-template <class Record>
-auto spelled(Record const& record) -> decltype(spell(record)) {
-  return '{' + spell(record) + '}';
 }
 
 template <class Value>
