@@ -234,8 +234,10 @@ long Parent<Interface>::get_childNodes(IXMLDOMNodeList** children) {
 template <class Interface>
 long Parent<Interface>::selectSingleNode(char16_t const* name, IXMLDOMNode** node) {
   *node = nullptr;
-  for (const pugi::xml_node child : node_.children(to_utf8(name).c_str())) {
-    if (child.type() == pugi::node_element) return give(node, view_of(tree_, child));
+  const std::string wanted = to_utf8(name);
+  for (const pugi::xml_node child : node_) {
+    if (child.type() == pugi::node_element && child.name() == wanted)
+      return give(node, view_of(tree_, child));
   }
   return S_FALSE;
 }

@@ -3,6 +3,7 @@
 #include "memory_dom.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace sivane::testing {
@@ -15,8 +16,8 @@ class Counted {
   virtual ~Counted() { --dom.objects_; }
 
   /// Counts an operation; what it is to answer instead of doing anything, if this is the one.
-  bool is_refused(long& result) const {
-    result = dom.refusal_ == MemoryDom::Refusal::result ? E_FAIL : S_OK;
+  bool is_refused(long& result, bool gives_object) const {
+    result = gives_object && dom.refusal_ == MemoryDom::Refusal::no_object ? S_OK : -1;
     return ++dom.operations_ == dom.refused_;
   }
 
@@ -26,8 +27,8 @@ class Counted {
 
 namespace {
 
-#define SIVANE_REFUSABLE \
-  if (long result = 0; is_refused(result)) return result
+#define SIVANE_REFUSABLE(gives_object) \
+  if (long result = 0; is_refused(result, gives_object)) return result
 
 template <class Interface>
 class Object : public Interface, public Counted {
@@ -40,7 +41,7 @@ class Object : public Interface, public Counted {
     return left;
   }
   long QueryInterface(InterfaceId, IXMLDOMElement** element) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     *element = dynamic_cast<IXMLDOMElement*>(this);
     if (*element == nullptr) return E_FAIL;
     AddRef();
@@ -67,12 +68,12 @@ class List final : public Object<IXMLDOMNodeList> {
  public:
   List(MemoryDom& tree, Node const& node) : Object(tree), children_(node.children) {}
   long get_length(long* length) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(false);
     *length = static_cast<long>(children_.size());
     return S_OK;
   }
   long get_item(long index, IXMLDOMNode** node) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     return give(children_.at(static_cast<std::size_t>(index)).get(), node);
   }
 
@@ -90,7 +91,7 @@ class Map final : public Object<IXMLDOMNamedNodeMap> {
  public:
   Map(MemoryDom& tree, Node const& node) : Object(tree), attributes_(node.attributes) {}
   long getNamedItem(char16_t const* name, IXMLDOMNode** node) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     return give(named(attributes_, name).get(), node);
   }
 
@@ -104,36 +105,36 @@ class NodeObject : public Object<Interface>, public Node {
   using Object<Interface>::Object;
   using Object<Interface>::is_refused;
   long appendChild(IXMLDOMNode* child, IXMLDOMNode** added) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(added != nullptr);
     children.emplace_back(child);
     return give(child, added);
   }
   long get_attributes(IXMLDOMNamedNodeMap** map) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     if (name[0] == u'#') return E_FAIL;
     return give<IXMLDOMNamedNodeMap>(new Map(this->dom, *this), map);
   }
   long get_childNodes(IXMLDOMNodeList** list) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     return give<IXMLDOMNodeList>(new List(this->dom, *this), list);
   }
   long get_nodeName(std::u16string* out) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(false);
     *out = name;
     return S_OK;
   }
   long get_nodeValue(tagVARIANT* out) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(false);
     *out = tagVARIANT(value);
     return S_OK;
   }
   long put_nodeValue(tagVARIANT in) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(false);
     value = in.text();
     return S_OK;
   }
   long selectSingleNode(char16_t const* child, IXMLDOMNode** node) override {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     return give(named(children, child).get(), node);
   }
 };
@@ -147,10 +148,16 @@ class Element final : public NodeObject<IXMLDOMElement> {
  public:
   using NodeObject::NodeObject;
   long setAttributeNode(IXMLDOMAttribute* attribute, IXMLDOMAttribute** old) override {
-    SIVANE_REFUSABLE;
-    if (named(attributes, node_of(attribute).name)) return E_FAIL;  // nothing writes one name twice
-    attributes.emplace_back(attribute);
-    return give<IXMLDOMAttribute>(nullptr, old);
+    SIVANE_REFUSABLE(false);
+    const auto same = std::find_if(attributes.begin(), attributes.end(), [attribute](auto const& present) {
+      return node_of(present.get()).name == node_of(attribute).name;
+    });
+    if (same == attributes.end()) {
+      attributes.emplace_back(attribute);
+      return give<IXMLDOMAttribute>(nullptr, old);
+    }
+    const CComPtr<IXMLDOMNode> replaced = std::exchange(*same, CComPtr<IXMLDOMNode>(attribute));
+    return give(dynamic_cast<IXMLDOMAttribute*>(replaced.get()), old);
   }
 };
 
@@ -167,7 +174,7 @@ class Document final : public NodeObject<IXMLDOMDocument> {
  private:
   template <class Kind, class Interface>
   long create(char16_t const* its_name, Interface** out) {
-    SIVANE_REFUSABLE;
+    SIVANE_REFUSABLE(true);
     auto* const made = new Kind(dom);
     made->name = its_name;
     return give<Interface>(made, out);

@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The operations on the nodes of a document: where nodes go, how long references last, what is refused.
+#include <gtest/gtest.h>
+#include <sivane/dom/document.h>
+#include <sivane/xml/attributes.h>
+
+#include <cstdlib>
+#include <new>
+#include <pugixml.hpp>
+
+#include "expect_error.h"
+#include "memory_dom.h"
+
+namespace sivane::testing {
+namespace {
+
+using dom::Document;
+using Element = CComPtr<IXMLDOMElement>;
+using Node = CComPtr<IXMLDOMNode>;
+
+Element made(Document const& document, char16_t const* name) {
+  Element element;
+  EXPECT_EQ(document.dom()->createElement(name, element.receive()), S_OK);
+  return element;
+}
+
+std::string attribute(IXMLDOMNode* node, char16_t const* name) {
+  CComPtr<IXMLDOMNamedNodeMap> map;
+  EXPECT_EQ(node->get_attributes(map.receive()), S_OK);
+  std::string value = "none";
+  GetAttributeValue(map.get(), name, value);
+  return value;
+}
+
+CComPtr<IXMLDOMNodeList> children(IXMLDOMNode* node) {
+  CComPtr<IXMLDOMNodeList> list;
+  EXPECT_EQ(node->get_childNodes(list.receive()), S_OK);
+  return list;
+}
+
+/// The names of the children, each behind a blank.
+std::u16string child_names(IXMLDOMNode* node) {
+  const auto list = children(node);
+  std::u16string names;
+  long length = -1;
+  EXPECT_EQ(list->get_length(&length), S_OK);
+  for (long i = 0; i < length; ++i) {
+    Node child;
+    std::u16string name;
+    EXPECT_EQ(list->get_item(i, child.receive()), S_OK);
+    EXPECT_EQ(child->get_nodeName(&name), S_OK);
+    names += u' ' + name;
+  }
+  return names;
+}
+
+/// The document without its first line.
+std::string body(Document const& document) {
+  const std::string text = document.save_string();
+  return text.substr(text.find('\n') + 1);
+}
+
+TEST(Nodes, AreListedInOrder) {
+  const Document document = Document::load_string("<a><b/>text<!--c--><?target?><B/><b x='1'/></a>");
+  const Node root = document.root_node();
+  EXPECT_EQ(child_names(root.get()), u" b #text #comment target B b");
+  EXPECT_EQ(child_names(document.dom()), u" a");
+  std::u16string name;
+  EXPECT_EQ(document.dom()->get_nodeName(&name), S_OK);
+  EXPECT_EQ(name, u"#document");
+
+  Node found, item;
+  EXPECT_EQ(root->selectSingleNode(u"b", found.receive()), S_OK);
+  EXPECT_EQ(attribute(found.get(), u"x"), "none");
+  for (char16_t const* const missing : {u"c", u"target", u"#text", u"", u"a/b", u"*", u"bb"}) {
+    EXPECT_GE(root->selectSingleNode(missing, found.receive()), 0);
+    EXPECT_FALSE(found);
+  }
+  const auto list = children(root.get());
+  for (const long index : {-1L, 6L, 1L << 40}) EXPECT_LT(list->get_item(index, item.receive()), 0);
+
+  tagVARIANT value;
+  EXPECT_EQ(list->get_item(1, item.receive()), S_OK);
+  EXPECT_EQ(item->get_nodeValue(&value), S_OK);
+  EXPECT_EQ(value.bstrVal, u"text");
+  CComPtr<IXMLDOMNamedNodeMap> map;
+  EXPECT_LT(item->get_attributes(map.receive()), 0);
+  Element element;
+  EXPECT_LT(item->QueryInterface(IID_IXMLDOMElement, element.receive()), 0);
+  EXPECT_LT(document.dom()->QueryInterface(IID_IXMLDOMElement, element.receive()), 0);
+}
+
+TEST(Nodes, GoWhereTheyAreAppendedWithAllThatTheyHold) {
+  Document document;
+  const Element root = document.make_root("root"), list = made(document, u"list"),
+                item = made(document, u"item");
+  EXPECT_EQ(body(document), "<root />\n");
+  CComPtr<IXMLDOMAttribute> attribute;
+  document.dom()->createAttribute(u"a", attribute.receive());
+  attribute->put_nodeValue(tagVARIANT(1));
+  EXPECT_EQ(item->setAttributeNode(attribute.get(), nullptr), S_OK);
+  AddAttribute(document.dom(), item.get(), u"b", "2");
+
+  Node added;
+  EXPECT_EQ(list->appendChild(item.get(), nullptr), S_OK);  // outside the tree still
+  EXPECT_EQ(root->appendChild(list.get(), added.receive()), S_OK);
+  Element view;
+  EXPECT_EQ(added->QueryInterface(IID_IXMLDOMElement, view.receive()), S_OK);
+  AddAttribute(document.dom(), view.get(), u"n", 1);
+  attribute->put_nodeValue(tagVARIANT(0.5));  // on an element that has moved twice
+  root->appendChild(made(document, u"last").get(), nullptr);
+  EXPECT_EQ(body(document),
+            "<root>\n  <list n=\"1\">\n    <item a=\"0.5\" b=\"2\" />\n  </list>\n  <last />\n</root>\n");
+  EXPECT_EQ(root->appendChild(item.get(), nullptr), S_OK);  // from within the tree
+  EXPECT_EQ(body(document),
+            "<root>\n  <list n=\"1\" />\n  <last />\n  <item a=\"0.5\" b=\"2\" />\n</root>\n");
+}
+
+TEST(Nodes, AttributesKeepTheirOrderAndAreReplacedByName) {
+  Document document;
+  const Element root = document.make_root("root");
+  for (char16_t const* const name : {u"c", u"a", u"b"}) AddAttribute(document.dom(), root.get(), name, "old");
+  CComPtr<IXMLDOMAttribute> fresh, old;
+  document.dom()->createAttribute(u"a", fresh.receive());
+  EXPECT_EQ(root->setAttributeNode(fresh.get(), old.receive()), S_OK);
+  EXPECT_EQ(body(document), "<root c=\"old\" a=\"\" b=\"old\" />\n");
+  tagVARIANT value;
+  old->get_nodeValue(&value);
+  EXPECT_EQ(value.bstrVal, u"old");
+  EXPECT_LT(root->setAttributeNode(fresh.get(), nullptr), 0);  // it has an element
+  EXPECT_EQ(root->setAttributeNode(old.get(), nullptr), S_OK);
+  EXPECT_EQ(attribute(root.get(), u"a"), "old");
+}
+
+TEST(Nodes, RefuseWhatMakesNoTree) {
+  Document document, other;
+  MemoryDom foreign;
+  const Element root = document.make_root("root"), inner = made(document, u"inner"),
+                alone = made(document, u"alone");
+  root->appendChild(inner.get(), nullptr);
+  const Element other_root = other.make_root("root"), foreign_element = foreign.element(u"foreign");
+  EXPECT_LT(inner->appendChild(root.get(), nullptr), 0);
+  EXPECT_LT(root->appendChild(root.get(), nullptr), 0);
+  EXPECT_LT(alone->appendChild(alone.get(), nullptr), 0);
+  EXPECT_LT(root->appendChild(other_root.get(), nullptr), 0);
+  EXPECT_LT(root->appendChild(foreign_element.get(), nullptr), 0);
+  EXPECT_LT(root->appendChild(foreign.comment().get(), nullptr), 0);
+  EXPECT_LT(root->appendChild(document.dom(), nullptr), 0);
+  EXPECT_LT(root->appendChild(nullptr, nullptr), 0);
+  EXPECT_LT(document.dom()->appendChild(alone.get(), nullptr), 0);  // a second root
+  CComPtr<IXMLDOMAttribute> attribute;
+  for (char16_t const* const name : {u"", u"a b", u"1", u"a=", u"\u00E4", u"\u2401"}) {
+    Element element;
+    EXPECT_LT(document.dom()->createElement(name, element.receive()), 0);
+    EXPECT_LT(document.dom()->createAttribute(name, attribute.receive()), 0);
+  }
+  foreign.document()->createAttribute(u"a", attribute.receive());
+  EXPECT_LT(root->setAttributeNode(attribute.get(), nullptr), 0);
+  EXPECT_LT(root->put_nodeValue(tagVARIANT(1)), 0);
+  EXPECT_EQ(body(document), "<root>\n  <inner />\n</root>\n");
+}
+
+TEST(Nodes, OutliveTheirDocument) {
+  auto document = std::make_unique<Document>(Document::load_string("<a><b c='1'/>text</a>"));
+  const Element root = document->root_element(), loose = made(*document, u"loose");
+  const auto list = children(root.get());
+  CComPtr<IXMLDOMDocument> maker(document->dom());
+  CComPtr<IXMLDOMNamedNodeMap> map;
+  Node child, text, named;
+  list->get_item(0, child.receive());
+  list->get_item(1, text.receive());
+  child->get_attributes(map.receive());
+  map->getNamedItem(u"c", named.receive());
+  document.reset();
+
+  EXPECT_EQ(child_names(maker.get()), u" a");
+  maker = {};
+  std::u16string name;
+  tagVARIANT value;
+  EXPECT_EQ(root->appendChild(loose.get(), nullptr), S_OK);
+  EXPECT_EQ(child_names(root.get()), u" b #text loose");
+  EXPECT_EQ(text->get_nodeValue(&value), S_OK);
+  child = {};
+  map = {};
+  EXPECT_EQ(named->put_nodeValue(tagVARIANT(2)), S_OK);
+  EXPECT_EQ(list->get_item(0, child.receive()), S_OK);
+  EXPECT_EQ(attribute(child.get(), u"c"), "2");
+}
+
+/// A walk of quadratic time does not end before the time limit of the test.
+TEST(Nodes, ALongListIsWalkedInLinearTime) {
+  constexpr long count = 1000000;
+  std::string text = "<a>";
+  for (long i = 0; i < count; ++i) text += "<b/>";
+  const auto list = children(Document::load_string(text + "</a>").root_node().get());
+  Node child;
+  for (long i = count - 1; i >= 0; --i) ASSERT_EQ(list->get_item(i, child.receive()), S_OK);
+  EXPECT_LT(list->get_item(count, child.receive()), 0);
+}
+
+/// Nor one that climbs the tree for each element.
+TEST(Nodes, AnyDepthIsBuiltAndFreedWithoutRecursion) {
+  constexpr int depth = 1000000;
+  Document downwards, upwards;
+  Element at = downwards.make_root("root");
+  for (int i = 0; i < depth; ++i) {
+    Element next = made(downwards, u"a");
+    AddAttribute(downwards.dom(), next.get(), u"i", i);
+    ASSERT_EQ(at->appendChild(next.get(), nullptr), S_OK);
+    at = next;
+  }
+  EXPECT_EQ(attribute(at.get(), u"i"), std::to_string(depth - 1));
+
+  Element below = made(upwards, u"a");
+  for (int i = 1; i < depth; ++i) {
+    const Element above = made(upwards, u"a");
+    ASSERT_EQ(above->appendChild(below.get(), nullptr), S_OK);
+    below = above;
+  }
+  ASSERT_EQ(upwards.dom()->appendChild(below.get(), nullptr), S_OK);
+  for (Document const* const document : {&downwards, &upwards}) {
+    EXPECT_TRUE(throws([&] { document->save_string(); }, "cannot save the document: more than 64 levels"));
+  }
+}
+
+/// Lets pugixml have so many blocks of memory while it lives.
+class Scarcity {
+ public:
+  explicit Scarcity(int blocks) {
+    left = blocks;
+    pugi::set_memory_management_functions(
+        [](std::size_t size) { return left-- > 0 ? std::malloc(size) : nullptr; }, free_);
+  }
+  Scarcity(Scarcity const&) = delete;
+  Scarcity& operator=(Scarcity const&) = delete;
+  ~Scarcity() { pugi::set_memory_management_functions(allocate_, free_); }
+
+ private:
+  static inline int left = 0;
+  pugi::allocation_function allocate_ = pugi::get_memory_allocation_function();
+  pugi::deallocation_function free_ = pugi::get_memory_deallocation_function();
+};
+
+TEST(Nodes, ExhaustedMemoryIsBadAlloc) {
+  std::string text = "<!--" + std::string(40000, 'c') + "--><a>" + std::string(40000, 't');
+  for (int i = 0; i < 1000; ++i) text += "<b c='" + std::string(static_cast<std::size_t>(i), 'd') + "'/>";
+  text += "</a>";
+  int blocks = 0;
+  for (bool done = false; !done; ++blocks) {
+    ASSERT_LT(blocks, 1000);
+    const Scarcity scarcity(blocks);
+    try {
+      Document document = Document::load_string(text);
+      const Element element = made(document, u"new");
+      AddAttribute(document.dom(), element.get(), u"long", std::string(40000, 'e'));
+      EXPECT_EQ(document.root_element()->appendChild(element.get(), nullptr), S_OK);
+      done = true;
+    } catch (std::bad_alloc const&) {
+    }
+  }
+  EXPECT_GT(blocks, 10);
+}
+
+}  // namespace
+}  // namespace sivane::testing
