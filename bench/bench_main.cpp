@@ -28,10 +28,8 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
     }
     std::printf("%s: %.2fx %s (8 of 10 rounds: %.2f to %.2f; %s)\n", name.c_str(), number(run, "ratio"),
                 run.report_label.c_str(), number(run, "low"), number(run, "high"), both_sides(run).c_str());
-    const auto allocations = run.counters.find("allocations");
-    if (allocations != run.counters.end()) {
-      std::printf("%s: %.2f allocations a descriptor\n", name.c_str(), allocations->second.value);
-    }
+    print_if_counted(run, "allocations", "%s: %.2f allocations a descriptor\n");
+    print_if_counted(run, "sections", "%s: %.0f sections a second\n");
     std::fflush(stdout);
   }
   static std::string both_sides(Run const& run) {
@@ -46,6 +44,10 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
       std::snprintf(text, sizeof text, "%.3f against %.3f ms", time * 1e3, yardstick_time * 1e3);
     }
     return text;
+  }
+  static void print_if_counted(Run const& run, char const* counter, char const* format) {
+    const auto found = run.counters.find(counter);
+    if (found != run.counters.end()) std::printf(format, name_of(run).c_str(), found->second.value);
   }
   /// The argument of a run stands where its name has a '#'.
   static std::string name_of(Run const& run) {

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -68,16 +69,25 @@ void print_section(const std::vector<unsigned char>& bytes) {
   }
 }
 
-// Descriptors
+// Services of a stream
 
-std::string service_name(const std::vector<unsigned char>& loop) {
-  const int size = static_cast<int>(loop.size());
-  sivane::Reader reader = sivane::Reader::within(loop.data(), size);
-  sivane::DescriptorSet descriptors;
-  descriptors.parse_descriptors(reader, size, sivane::too_little_data);
-  const auto& services = descriptors.get_service_descriptors();
-  return services.empty() ? "" : services.front().service_name;
-}
+class ServiceNames final : public sivane::DemuxPush {
+ public:
+  ServiceNames() { add_psi_handler(0x0011, 0x42); }
+
+  std::map<int, std::string> names;  // by service_id
+
+ protected:
+  void on_psi_section(int, int, int, const unsigned char* section) override {
+    sivane::Sdt sdt;
+    sdt.Parse(section);
+    for (const sivane::Sdt::Service_info& service : sdt.service_infos) {
+      for (const sivane::DescriptorService& descriptor : service.get_service_descriptors()) {
+        names[service.service_id] = descriptor.service_name;
+      }
+    }
+  }
+};
 
 // Registered names
 
@@ -93,15 +103,17 @@ int main(int argc, char** argv) {
 
   Receiver receiver;
   EventCounter events;
-  const bool whole =
-      receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0;
+  ServiceNames services;
+  const bool whole = receiver.push_data(stream.data(), size) == 0 &&
+                     events.push_data(stream.data(), size) == 0 &&
+                     services.push_data(stream.data(), size) == 0;
   std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections\n";
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
-  std::cout << service_name({0x48, 0x09, 0x01, 0x03, 'A', 'B', 'C', 0x03, 'O', 'n', 'e'}) << '\n';
+  for (const auto& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
 
   sivane::init();
   const unsigned char ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  return whole && receiver.program_maps > 0 && events.sections > 0 ? 0 : 1;
+  return whole && receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() ? 0 : 1;
 }

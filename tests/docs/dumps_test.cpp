@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "section_builder.h"
+#include "section_text.h"
 
 namespace {
 
@@ -32,6 +33,11 @@ TEST(DumpsPage, ShowsWhatTheLibraryWrites) {
 
   const sivane::DescriptorCa descriptor(hex("09 06 0500 E1F5 54 01").data());
   EXPECT_NE(page().find(block_of(descriptor)), std::string::npos) << block_of(descriptor);
+
+  int size = 99;
+  const Bytes entry = assemble("0001 FF 8( 48[ 01 [ \"Harbour Media\" ] [ \"Harbour One\" ] ] 53[ 0500 ] )");
+  const sivane::Sdt::Service_info service(entry.data(), size);
+  EXPECT_NE(page().find(block_of(service)), std::string::npos) << block_of(service);
 }
 
 }  // namespace

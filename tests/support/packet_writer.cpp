@@ -54,9 +54,11 @@ void PacketWriter::dense_sections(int pid, std::vector<Bytes> const& sections) {
     // A packet in which a section starts has one byte less for them: its pointer_field.
     const auto next = std::lower_bound(starts.begin(), starts.end(), done);
     const bool has_start = next != starts.end() && *next - done < payload_size - 1;
-    Packet next_packet{.pid = pid, .start = has_start};
+    // One byte too late for this packet, which an adaptation field of that byte then makes shorter.
+    const bool starts_too_late = next != starts.end() && *next - done == payload_size - 1;
+    Packet next_packet{.pid = pid, .start = has_start, .adaptation = starts_too_late ? 0 : -1};
     if (has_start) next_packet.payload.push_back(low_byte(static_cast<int>(*next - done)));
-    const std::size_t room = payload_size - next_packet.payload.size();
+    const std::size_t room = payload_size - next_packet.payload.size() - (starts_too_late ? 1 : 0);
     // Bytes behind the last section are stuffing; a section in front of a start that is too far fills its
     // packet.
     next_packet.payload = std::move(next_packet.payload) + slice(all, done, room);
