@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 //
 // The snippets of docs/guide.md in one program, run over the stream that it is given.
+#include <sivane/dom/document.h>
 #include <sivane/sivane.h>
 
 #include <fstream>
@@ -89,6 +90,21 @@ class ServiceNames final : public sivane::DemuxPush {
   }
 };
 
+// Documents
+
+std::string as_document(const sivane::Pat& pat) {
+  sivane::dom::Document document;
+  pat.SaveSection(document.dom(), document.make_root("pat").get());
+  return document.save_string();
+}
+
+sivane::Pat from_document(const std::string& text) {
+  const sivane::dom::Document document = sivane::dom::Document::load_string(text);
+  sivane::Pat pat;
+  pat.Parse(document.root_node().get());
+  return pat;
+}
+
 // Registered names
 
 void print_scrambling(const sivane::DescriptorCa& ca) {
@@ -112,8 +128,13 @@ int main(int argc, char** argv) {
   print_section({0x00, 0xB0, 0x0D, 0x00});
   for (const auto& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
 
+  sivane::Pat pat;
+  pat.program_infos.resize(2);
+  const bool survives = from_document(as_document(pat)).program_infos.size() == 2;
+
   sivane::init();
   const unsigned char ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  return whole && receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() ? 0 : 1;
+  const bool found = receiver.program_maps > 0 && events.sections > 0 && !services.names.empty();
+  return whole && found && survives ? 0 : 1;
 }

@@ -4,6 +4,7 @@
 
 #include <sivane/sivane.h>
 
+#include <cstdio>
 #include <string_view>
 
 #include "conversion.h"
@@ -33,6 +34,16 @@ std::u32string clean_name(char const* (*lookup)(int), int id) {
   return clean;
 }
 
+std::u32string with_name(std::u32string const& number, std::u32string const& name) {
+  return name.empty() ? number : number + U" (" + name + U")";
+}
+
+std::u32string hexadecimal(int id) {
+  char text[16];
+  std::snprintf(text, sizeof text, "0x%04x", static_cast<unsigned int>(id));
+  return plain(std::string_view(text));
+}
+
 }  // namespace
 
 std::u32string registered(char const* (*lookup)(int), int id) {
@@ -41,13 +52,19 @@ std::u32string registered(char const* (*lookup)(int), int id) {
 }
 
 std::u32string numbered(char const* (*lookup)(int), int id) {
-  std::u32string const name = clean_name(lookup, id);
-  return name.empty() ? plain(id) : plain(id) + U" (" + name + U")";
+  return with_name(plain(id), clean_name(lookup, id));
+}
+
+std::u32string numbered_ca_system(int id) {
+  return with_name(hexadecimal(id), clean_name(sivane::get_ca_system_id, id));
 }
 
 std::u32string ca_systems(std::set<int> const& ids) {
   std::set<std::u32string> named;  // a party may have several ids
-  for (int const id : ids) named.insert(registered(sivane::get_ca_system_id, id));
+  for (int const id : ids) {
+    std::u32string const name = clean_name(sivane::get_ca_system_id, id);
+    named.insert(name.empty() ? hexadecimal(id) : name);
+  }
   std::u32string names;
   for (std::u32string const& name : named) names += (names.empty() ? U"" : U", ") + name;
   return names;

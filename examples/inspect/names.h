@@ -12,6 +12,8 @@ namespace inspect {
 std::u32string registered(char const* (*lookup)(int), int id);
 /// The number and, where there is one, the name in brackets: "8350 (National Communications Commission)".
 std::u32string numbered(char const* (*lookup)(int), int id);
+/// Of a CA system, whose number is known in hexadecimal: "0x0100 (Canal Plus)".
+std::u32string numbered_ca_system(int id);
 /// The names of CA systems with a comma between.
 std::u32string ca_systems(std::set<int> const& ids);
 

@@ -116,7 +116,7 @@ void NetworksCommand::finish() {
   print(networks_, U"network", sivane::get_network_id);
   print(bouquets_, U"bouquet", sivane::get_bouquet_id);
   for (int const id : ca_systems_) {
-    out_ << for_terminal(U"CA system " + numbered(sivane::get_ca_system_id, id)) << '\n';
+    out_ << for_terminal(U"CA system " + numbered_ca_system(id)) << '\n';
   }
   if (networks_.empty() && bouquets_.empty() && ca_systems_.empty()) report("no network is described");
 }

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "../../examples/inspect/conversion.h"
 #include "../../examples/inspect/dvb_text.h"
@@ -130,7 +131,14 @@ TEST(InspectLists, NetworksWithRegisteredNames) {
   EXPECT_EQ(run.out,
             "network 12289 (German Digital Terrestrial Television): A\n"
             "  stream 7 of network 1 (Astra Satellite Network 19,2°E): terrestrial 600 MHz\n"
-            "CA system 256 (Canal Plus)\n");
+            "CA system 0x0100 (Canal Plus)\n");
+}
+
+TEST(InspectLists, ReadmeShowsWhatServicesPrints) {
+  std::ifstream file(SIVANE_ROOT "/README.md");
+  std::string const readme{std::istreambuf_iterator<char>(file), {}};
+  Outcome const run = inspect("services '" SIVANE_ROOT "/examples/sample/sample.ts'");
+  EXPECT_TRUE(has(readme, "services examples/sample/sample.ts\n" + run.out + "```\n")) << run.out;
 }
 
 TEST(InspectLists, RealStreamsAreReadable) {
@@ -147,7 +155,7 @@ TEST(InspectLists, RealStreamsAreReadable) {
         "2021-10-05 03:58  01:02:00  501 華視CTS             華視午間新聞(普)\n");
   shows("networks", "terrestrial-tw.ts", "  stream 34 of network 8350: terrestrial 593 MHz\n");
   shows("services", "satellite-it.ts", "Mediaset  6000    102      Radio Monte Carlo");
-  shows("networks", "satellite-it.ts", "\nCA system 6206 (Kudelski SA)\n");
+  shows("networks", "satellite-it.ts", "\nCA system 0x183e (Kudelski SA)\n");
   shows("events", "terrestrial-at.ts", "2024-07-27 07:05  00:25:12  14104    Zurück zur Natur\n");
 }
 
