@@ -27,7 +27,7 @@ namespace {
 using AccountPtr = std::shared_ptr<FailingDom::Account>;
 using Answer = FailingDom::Account::Answer;
 
-constexpr long refusal = -1;
+constexpr long negative_result = -1;
 
 template <class Interface>
 class Object : public Interface {
@@ -45,7 +45,7 @@ class Object : public Interface {
     return left;
   }
   long QueryInterface(InterfaceId, IXMLDOMElement**) override {
-    return operate([] {}), refusal;
+    return operate([] {}), negative_result;
   }
 
  protected:
@@ -54,7 +54,7 @@ class Object : public Interface {
   /// An operation that does one thing.
   template <class Step>
   long operate(Step step) {
-    if (account_->answer() != Answer::yes) return refusal;
+    if (account_->answer() != Answer::yes) return negative_result;
     step();
     return S_OK;
   }
@@ -62,7 +62,7 @@ class Object : public Interface {
   template <class Result, class Make>
   long give(Result** receiver, Make make) {
     const Answer answer = account_->answer();
-    if (answer == Answer::no) return refusal;
+    if (answer == Answer::no) return negative_result;
     CComPtr<Result> object = make();
     if (answer == Answer::nothing) object = {};
     if (receiver != nullptr) *receiver = object.detach();
@@ -101,7 +101,7 @@ class Node : public Object<Interface> {
     return this->give(added, [&] { return children.emplace_back(child); });
   }
   long get_attributes(IXMLDOMNamedNodeMap**) override {
-    return this->operate([] {}), refusal;
+    return this->operate([] {}), negative_result;
   }
   long get_childNodes(IXMLDOMNodeList** list) override {
     return this->give(list, [&] { return CComPtr<IXMLDOMNodeList>(new List(this->account(), children)); });
