@@ -13,10 +13,10 @@ namespace {
 
 using TreePtr = std::shared_ptr<Tree>;
 
-/// Gives a reference to the caller, unless there is nowhere to put it.
+/// Gives the reference to the caller.
 template <class Interface, class Object>
 long give(Interface** receiver, CComPtr<Object> object) {
-  if (receiver != nullptr) *receiver = object.detach();
+  *receiver = object.detach();
   return S_OK;
 }
 
@@ -158,7 +158,7 @@ class Attribute final : public Node<IXMLDOMAttribute> {
 
 class Document final : public Parent<IXMLDOMDocument> {
  public:
-  explicit Document(TreePtr tree) : Parent(tree, tree->document) {}
+  explicit Document(TreePtr const& tree) : Parent(tree, tree->document) {}
 
   /// There is one root.
   long appendChild(IXMLDOMNode* child, IXMLDOMNode** added) override {
@@ -223,7 +223,7 @@ template <class Interface>
 long Parent<Interface>::appendChild(IXMLDOMNode* child, IXMLDOMNode** added) {
   auto* const element = dynamic_cast<Element*>(child);
   if (element == nullptr || element->tree() != tree_ || !element->move_to(node_)) return E_FAIL;
-  return give(added, CComPtr<IXMLDOMNode>(child));
+  return added == nullptr ? S_OK : give(added, CComPtr<IXMLDOMNode>(child));
 }
 
 template <class Interface>
@@ -249,7 +249,8 @@ long Element::get_attributes(IXMLDOMNamedNodeMap** attributes) {
 long Element::setAttributeNode(IXMLDOMAttribute* attribute, IXMLDOMAttribute** old) {
   auto* const own = dynamic_cast<Attribute*>(attribute);
   if (own == nullptr || own->is_attached()) return E_FAIL;
-  return give(old, own->attach(*this));
+  CComPtr<Attribute> replaced = own->attach(*this);
+  return old == nullptr ? S_OK : give(old, std::move(replaced));
 }
 
 /// False if `parent` stands within this element. pugixml climbs up from `parent` to know that, however deep
@@ -283,8 +284,8 @@ CComPtr<Attribute> Attribute::attach(Element& element) {
 
 }  // namespace
 
-CComPtr<IXMLDOMDocument> document_node(TreePtr tree) {
-  return CComPtr<IXMLDOMDocument>(new Document(std::move(tree)));
+CComPtr<IXMLDOMDocument> document_node(TreePtr const& tree) {
+  return CComPtr<IXMLDOMDocument>(new Document(tree));
 }
 
 CComPtr<IXMLDOMElement> element_node(TreePtr tree, pugi::xml_node element) {

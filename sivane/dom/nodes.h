@@ -11,7 +11,7 @@
 
 namespace sivane::dom {
 
-CComPtr<IXMLDOMDocument> document_node(std::shared_ptr<Tree> tree);
+CComPtr<IXMLDOMDocument> document_node(std::shared_ptr<Tree> const& tree);
 CComPtr<IXMLDOMElement> element_node(std::shared_ptr<Tree> tree, pugi::xml_node element);
 
 }  // namespace sivane::dom
