@@ -221,7 +221,8 @@ TEST(DescriptorSet, RepeatedTagsKeepTheirOrder) {
     parse(set, descriptor);
   auto const& streams = set.get_stream_identifier_descriptors();
   ASSERT_EQ(streams.size(), 3u);
-  EXPECT_EQ(members(streams[0].component_tag, streams[1].component_tag, streams[2].component_tag), "11 22 33");
+  EXPECT_EQ(members(streams[0].component_tag, streams[1].component_tag, streams[2].component_tag),
+            "11 22 33");
   EXPECT_EQ(set.get_CA_descriptors().size(), 1u);
 }
 
