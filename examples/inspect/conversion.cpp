@@ -58,37 +58,44 @@ class Converter {
   iconv_t handle_;
 };
 
-/// Converts all of it, with `replacement` for each unit of `unit_size` bytes that cannot be.
-std::string convert_all(std::string_view text, std::string const& to, std::string const& from,
-                        std::size_t unit_size, std::string_view replacement) {
-  std::string converted;
-  Converter converter(to, from);
-  while (!text.empty()) {
-    if (converter.is_open()) text = converter.convert(text, converted);
-    if (text.empty()) break;
-    converted += replacement;
-    text.remove_prefix(std::min(unit_size, text.size()));
-  }
-  return converted;
-}
-
 std::string_view bytes_of(std::u32string_view text) {
   return {reinterpret_cast<char const*>(text.data()), text.size() * sizeof(char32_t)};
 }
 
+/// Converts all of it; `replace` appends what stands for the front of a rest, and gives the size of that.
+template <class Replace>
+std::string convert_all(std::string_view text, std::string const& to, std::string const& from,
+                        Replace replace) {
+  std::string converted;
+  Converter converter(to, from);
+  while (!text.empty()) {
+    if (converter.is_open()) text = converter.convert(text, converted);
+    if (!text.empty()) text.remove_prefix(std::min(replace(text, converted), text.size()));
+  }
+  return converted;
+}
+
 }  // namespace
 
-std::u32string to_unicode(std::string_view text, std::string const& encoding) {
-  constexpr char32_t unknown[] = {0xFFFD};
+StandIn unknown_byte(std::string_view) { return {1, U"\uFFFD"}; }
+
+std::u32string to_unicode(std::string_view text, std::string const& encoding, FindStandIn stand_in) {
   std::string const bytes =
-      convert_all(text, unicode, encoding, encoding == "UTF-16BE" ? 2 : 1, bytes_of({unknown, 1}));
+      convert_all(text, unicode, encoding, [stand_in](std::string_view rest, std::string& converted) {
+        StandIn const found = stand_in(rest);
+        converted += bytes_of(found.text);
+        return found.size;
+      });
   std::u32string converted(bytes.size() / sizeof(char32_t), U'\0');
   std::copy_n(bytes.data(), bytes.size(), reinterpret_cast<char*>(converted.data()));
   return converted;
 }
 
 std::string from_unicode(std::u32string_view text, std::string const& encoding) {
-  return convert_all(bytes_of(text), encoding, unicode, sizeof(char32_t), "?");
+  return convert_all(bytes_of(text), encoding, unicode, [](std::string_view, std::string& converted) {
+    converted += '?';
+    return sizeof(char32_t);
+  });
 }
 
 }  // namespace inspect

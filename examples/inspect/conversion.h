@@ -7,9 +7,20 @@
 
 namespace inspect {
 
-/// Text in an encoding that iconv knows; U+FFFD for what it does not have. Of an unknown encoding every byte
-/// above 0x7F is such a one.
-std::u32string to_unicode(std::string_view text, std::string const& encoding);
+/// What is put for the front of a text that iconv cannot convert, and how many bytes of it that covers.
+struct StandIn {
+  std::size_t size;
+  std::u32string text;
+};
+/// Finds it; `rest` begins with what is malformed, cut off or not in the encoding, and is not empty.
+using FindStandIn = StandIn (*)(std::string_view rest);
+
+/// U+FFFD for a byte.
+StandIn unknown_byte(std::string_view rest);
+
+/// Text in an encoding that iconv knows.
+std::u32string to_unicode(std::string_view text, std::string const& encoding,
+                          FindStandIn stand_in = unknown_byte);
 
 /// The way back; "?" for what the encoding does not have.
 std::string from_unicode(std::u32string_view text, std::string const& encoding);

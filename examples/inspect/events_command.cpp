@@ -21,17 +21,25 @@ namespace {
 std::u32string two_digits(int number) { return (number < 10 ? U"0" : U"") + plain(number); }
 
 /// A time that is left open has all of its bits set, and no digits above 9 stand for one.
-bool is_open(int hour, int minute, int second) { return hour > 99 || minute > 59 || second > 59; }
+template <class Time>
+bool is_open(Time const& time) {
+  return time.hour > 99 || time.minute > 59 || time.second > 59;
+}
+
+/// Hours, minutes and seconds of a time or a duration.
+template <class Time>
+std::u32string clock_text(Time const& time) {
+  return two_digits(time.hour) + U':' + two_digits(time.minute) + U':' + two_digits(time.second);
+}
 
 std::u32string start_text(sivane::DateTime const& start) {
-  if (is_open(start.hour, start.minute, start.second)) return U"-";
+  if (is_open(start)) return U"-";
   return plain(start.year) + U'-' + two_digits(start.month) + U'-' + two_digits(start.day) + U' ' +
-         two_digits(start.hour) + U':' + two_digits(start.minute);
+         clock_text(start);
 }
 
 std::u32string duration_text(sivane::Duration const& duration) {
-  if (is_open(duration.hour, duration.minute, duration.second)) return U"-";
-  return two_digits(duration.hour) + U':' + two_digits(duration.minute) + U':' + two_digits(duration.second);
+  return is_open(duration) ? U"-" : clock_text(duration);
 }
 
 std::array<int, 6> by_time(sivane::DateTime const& t) {
@@ -44,7 +52,7 @@ void EventsCommand::show(Section const& section) {
   auto const table = table_of(section);
   if (!table) return;
   services_.take(*table);
-  if (auto const* const eit = table_as<sivane::Eit>(*table)) take(*eit, section);
+  if (auto const* const eit = current_as<sivane::Eit>(*table)) take(*eit, section);
 }
 
 void EventsCommand::take(sivane::Eit const& eit, Section const& section) {

@@ -4,10 +4,10 @@
 
 #include <sivane/sivane.h>
 
-#include <cstdio>
 #include <string_view>
 
 #include "conversion.h"
+#include "hexadecimal.h"
 #include "terminal.h"
 
 namespace inspect {
@@ -38,18 +38,9 @@ std::u32string with_name(std::u32string const& number, std::u32string const& nam
   return name.empty() ? number : number + U" (" + name + U")";
 }
 
-std::u32string hexadecimal(int id) {
-  char text[16];
-  std::snprintf(text, sizeof text, "0x%04x", static_cast<unsigned int>(id));
-  return plain(std::string_view(text));
-}
+std::u32string hexadecimal(int id) { return plain(c_hexadecimal(id, 2)); }
 
 }  // namespace
-
-std::u32string registered(char const* (*lookup)(int), int id) {
-  std::u32string const name = clean_name(lookup, id);
-  return name.empty() ? plain(id) : name;
-}
 
 std::u32string numbered(char const* (*lookup)(int), int id) {
   return with_name(plain(id), clean_name(lookup, id));

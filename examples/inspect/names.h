@@ -7,10 +7,9 @@
 
 namespace inspect {
 
-/// A registered name as people read it: without the blanks and "&nbsp;" that the lists left in it; the number
-/// where there is none.
-std::u32string registered(char const* (*lookup)(int), int id);
-/// The number and, where there is one, the name in brackets: "8350 (National Communications Commission)".
+// Registered names as people read them: without the blanks and "&nbsp;" that the lists left in them.
+
+/// The number and, where there is one, the name in brackets: "1 (Astra Satellite Network 19,2°E)".
 std::u32string numbered(char const* (*lookup)(int), int id);
 /// Of a CA system, whose number is known in hexadecimal: "0x0100 (Canal Plus)".
 std::u32string numbered_ca_system(int id);

@@ -4,6 +4,7 @@
 
 #include <sivane/sivane.h>
 
+#include <iomanip>
 #include <ostream>
 #include <sstream>
 
@@ -16,37 +17,38 @@ namespace inspect {
 namespace {
 
 constexpr double hertz_in_units_of_ten = 10;
+constexpr int digits_of_frequencies = 9;  // as many as a descriptor has
 
-std::string text_of(sivane::DescriptorSatelliteDeliverySystem const& d) {
-  std::ostringstream text;
+void write(std::ostream& text, sivane::DescriptorSatelliteDeliverySystem const& d) {
   text << "satellite " << d.orbital_position << (d.west_east_flag != 0 ? " E, " : " W, ") << d.frequency
-       << " GHz " << d.get_polarization_text() << ", " << d.symbol_rate << " Msymbol/s";
-  return text.str();
+       << " GHz " << d.get_polarization_text() << ", " << d.symbol_rate << " Msymbol/s, FEC "
+       << d.get_FEC_inner_text();
 }
 
-std::string text_of(sivane::DescriptorCableDeliverySystem const& d) {
-  std::ostringstream text;
+void write(std::ostream& text, sivane::DescriptorCableDeliverySystem const& d) {
   text << "cable " << d.frequency << " MHz, " << d.symbol_rate << " Msymbol/s";
-  return text.str();
+  constexpr int last_modulation = 5;
+  if (d.modulation >= 1 && d.modulation <= last_modulation) text << ", " << (8 << d.modulation) << "-QAM";
 }
 
-std::string text_of(sivane::DescriptorTerrestrialDeliverySystem const& d) {
-  std::ostringstream text;
+void write(std::ostream& text, sivane::DescriptorTerrestrialDeliverySystem const& d) {
   text << "terrestrial " << static_cast<double>(d.centre_frequency) * hertz_in_units_of_ten / 1e6 << " MHz";
-  return text.str();
+  constexpr int widest = 8, last_bandwidth = 3;
+  if (d.bandwidth <= last_bandwidth) text << ", " << widest - d.bandwidth << " MHz wide";
 }
 
 template <class Descriptors>
-void append_each(std::string& text, Descriptors const& descriptors) {
-  for (auto const& descriptor : descriptors) text += ": " + text_of(descriptor);
+void write_each(std::ostream& text, Descriptors const& descriptors) {
+  for (auto const& descriptor : descriptors) write(text << ": ", descriptor);
 }
 
 std::u32string delivery_of(sivane::DescriptorSet const& entry) {
-  std::string text;
-  append_each(text, entry.get_satellite_delivery_system_descriptors());
-  append_each(text, entry.get_cable_delivery_system_descriptors());
-  append_each(text, entry.get_terrestrial_delivery_system_descriptors());
-  return plain(text);
+  std::ostringstream text;
+  text << std::setprecision(digits_of_frequencies);
+  write_each(text, entry.get_satellite_delivery_system_descriptors());
+  write_each(text, entry.get_cable_delivery_system_descriptors());
+  write_each(text, entry.get_terrestrial_delivery_system_descriptors());
+  return plain(text.str());
 }
 
 std::u32string name_of(sivane::Nit const& nit) {
@@ -86,13 +88,13 @@ void NetworksCommand::take_group(Table const& table, Group& group) {
 void NetworksCommand::show(Section const& section) {
   auto const table = table_of(section);
   if (!table) return;
-  if (auto const* const nit = table_as<sivane::Nit>(*table)) take_group(*nit, networks_[nit->context_id]);
-  if (auto const* const bat = table_as<sivane::Bat>(*table)) take_group(*bat, bouquets_[bat->context_id]);
-  if (auto const* const cat = table_as<sivane::Cat>(*table)) collect(*cat, ca_systems_);
-  if (auto const* const sdt = table_as<sivane::Sdt>(*table)) {
+  if (auto const* const nit = current_as<sivane::Nit>(*table)) take_group(*nit, networks_[nit->context_id]);
+  if (auto const* const bat = current_as<sivane::Bat>(*table)) take_group(*bat, bouquets_[bat->context_id]);
+  if (auto const* const cat = current_as<sivane::Cat>(*table)) collect(*cat, ca_systems_);
+  if (auto const* const sdt = current_as<sivane::Sdt>(*table)) {
     for (auto const& service : sdt->service_infos) collect(service, ca_systems_);
   }
-  if (auto const* const pmt = table_as<sivane::Pmt>(*table)) {
+  if (auto const* const pmt = current_as<sivane::Pmt>(*table)) {
     collect(*pmt, ca_systems_);
     for (auto const& stream : pmt->stream_infos) collect(stream, ca_systems_);
   }

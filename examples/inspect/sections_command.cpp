@@ -6,19 +6,9 @@
 
 #include <ostream>
 
+#include "hexadecimal.h"
+
 namespace inspect {
-
-namespace {
-
-std::string c_hexadecimal(int value, int bytes) {
-  unsigned char const big_endian[] = {static_cast<unsigned char>(value >> 8),
-                                      static_cast<unsigned char>(value)};
-  std::string text = "0x";
-  sivane::bin2str(big_endian + 2 - bytes, text, bytes);
-  return text;
-}
-
-}  // namespace
 
 void SectionsCommand::show(Section const& section) {
   std::string line = section.pid == Section::no_pid ? "-" : c_hexadecimal(section.pid, 2);

@@ -36,8 +36,8 @@ std::set<int> ca_systems_of(sivane::Pmt const& pmt) {
 }  // namespace
 
 void ServiceList::take(Table const& table) {
-  if (auto const* const sdt = table_as<sivane::Sdt>(table)) take(*sdt);
-  if (auto const* const pmt = table_as<sivane::Pmt>(table))
+  if (auto const* const sdt = current_as<sivane::Sdt>(table)) take(*sdt);
+  if (auto const* const pmt = current_as<sivane::Pmt>(table))
     programs_[pmt->context_id] = inspect::ca_systems_of(*pmt);
 }
 

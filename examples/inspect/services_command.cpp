@@ -5,7 +5,9 @@
 #include <sivane/sivane.h>
 
 #include <ostream>
+#include <string_view>
 
+#include "hexadecimal.h"
 #include "names.h"
 #include "terminal.h"
 
@@ -19,7 +21,10 @@ std::u32string running_text(int status) {
 }
 
 std::u32string type_text(int type) {
-  return type < 0 ? U"-" : plain(sivane::DescriptorService::get_service_type_text(type));
+  if (type < 0) return U"-";
+  std::string_view const text = sivane::DescriptorService::get_service_type_text(type);
+  bool const has_name = text != "reserved for future use" && text != "user defined";
+  return plain(has_name ? text : c_hexadecimal(type, 1));
 }
 
 std::u32string access_text(Service const& service, std::set<int> const& systems) {
@@ -37,7 +42,7 @@ void ServicesCommand::show(Section const& section) {
 void ServicesCommand::finish() {
   Columns columns({U"network", U"stream", U"service", U"name", U"provider", U"type", U"status", U"access"});
   for (auto const& [id, service] : services_.all()) {
-    columns.add({registered(sivane::get_original_network_id, id.original_network), plain(id.transport_stream),
+    columns.add({numbered(sivane::get_original_network_id, id.original_network), plain(id.transport_stream),
                  plain(id.service), service.name, service.provider, type_text(service.type),
                  running_text(service.running_status), access_text(service, services_.ca_systems_of(id))});
   }

@@ -36,11 +36,11 @@ class TableOf final : public Table {
   Class table_;
 };
 
-/// The object itself; null where it is of another class.
+/// The object itself; null where it is of another class, or sent ahead of the time from which it applies.
 template <class Class>
-Class const* table_as(Table const& table) {
+Class const* current_as(Table const& table) {
   auto const* const same = dynamic_cast<TableOf<Class> const*>(&table);
-  return same != nullptr ? &same->object() : nullptr;
+  return same != nullptr && same->object().current_next_indicator == 1 ? &same->object() : nullptr;
 }
 
 }  // namespace inspect
