@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <cerrno>
+#include <cstdint>
 #include <vector>
 
 namespace inspect {
@@ -24,7 +25,7 @@ class Converter {
     if (is_open()) iconv_close(handle_);
   }
 
-  bool is_open() const { return handle_ != reinterpret_cast<iconv_t>(-1); }
+  bool is_open() const { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
 
   /// Converts as far as it goes, and gives what is left: nothing, or what begins with a unit that is
   /// malformed, cut off or not in the other encoding.

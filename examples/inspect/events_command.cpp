@@ -18,7 +18,7 @@ namespace inspect {
 
 namespace {
 
-std::u32string two_digits(int number) { return (number < 10 ? U"0" : U"") + plain(number); }
+std::u32string two_digits(int number) { return plain(number / 10) + plain(number % 10); }
 
 /// A time that is left open has all of its bits set, and no digits above 9 stand for one.
 template <class Time>

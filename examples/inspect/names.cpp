@@ -22,7 +22,7 @@ std::u32string clean_name(char const* (*lookup)(int), int id) {
   constexpr std::string_view entity = "&nbsp;";
   std::string text(name);
   for (std::size_t at = text.find(entity); at != std::string::npos; at = text.find(entity)) {
-    text.replace(at, entity.size(), " ");
+    text.replace(at, entity.size(), 1, ' ');
   }
   std::u32string clean;
   for (char32_t const c : to_unicode(text, "ISO-8859-1")) {

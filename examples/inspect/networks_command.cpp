@@ -105,7 +105,7 @@ void NetworksCommand::print(Groups const& groups, std::u32string const& kind,
                             char const* (*lookup)(int)) const {
   for (auto const& [id, group] : groups) {
     std::u32string const name = group.name.empty() ? U"" : U": " + group.name;
-    out_ << for_terminal(kind + U' ' + numbered(lookup, id) + name) << '\n';
+    out_ << for_terminal(kind) << ' ' << for_terminal(numbered(lookup, id)) << for_terminal(name) << '\n';
     for (auto const& [stream, delivery] : group.streams) {
       out_ << for_terminal(U"  stream " + plain(stream.second) + U" of network " +
                            numbered(sivane::get_original_network_id, stream.first) + delivery)
