@@ -146,14 +146,20 @@ const Taken entries[] = {
     {taken<PmtStreamInfo>, "02 E101 F(-1 52[ 07 ] )", 99, "no_errorcode descriptor start end mismatch"},
     {taken<Nit::Stream_info>, "0001 0002 F( 52[ 07 ] )", 6, "9"},
     {taken<Nit::Stream_info>, "0001 0002 F()", 5, "no_errorcode too little data"},
+    {taken<Nit::Stream_info>, "0001 0002 F(-1 52[ 07 ] )", 99, "no_errorcode descriptor start end mismatch"},
     {taken<Bat::Stream_info>, "0001 0002 F( 52[ 07 ] )", 6, "9"},
     {taken<Bat::Stream_info>, "0001 0002 F()", 5, "no_errorcode too little data"},
     {taken<Sdt::Service_info>, "0001 FC 8( 52[ 07 ] )", 5, "8"},
     {taken<Sdt::Service_info>, "0001 FC 8()", 4, "no_errorcode too little data"},
+    {taken<Sdt::Service_info>, "0001 FC 8(-1 52[ 07 ] )", 99, "no_errorcode descriptor start end mismatch"},
     {taken<Eit::EventInfo>, "0001 C079124500 014530 8( 52[ 07 ] )", 0, "15"},
+    {taken<Eit::EventInfo>, "0001 C079124500 014530 8(-1 52[ 07 ] )", 99,
+     "no_errorcode descriptor start end mismatch"},
     {taken<Rst::Status>, "0001 0002 0003 0004 05", 0, "9"},
     {taken<Ait::Application>, "00000015 0001 01 F( 01[] )", 9, "11"},
     {taken<Ait::Application>, "00000015 0001 01 F()", 8, "length_error application length to small"},
+    {taken<Ait::Application>, "00000015 0001 01 F(-1 80[ 07 ] )", 99,
+     "length_error application common descriptors length mismatch"},
     {taken<Ait::Application>, "00000015 0001 01 F( 0D[] )", 11, "length_error dii_location_descriptor: 1"}};
 
 TEST(Entries, TellTheirSizeAndFailAsTheirTablesDo) {
