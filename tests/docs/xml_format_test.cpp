@@ -7,7 +7,6 @@
 #include <sivane/sivane.h>
 
 #include <fstream>
-#include <regex>
 #include <sstream>
 
 #include "memory_dom.h"
@@ -35,38 +34,45 @@ TEST(XmlFormatPage, ShowsWhatTheLibraryWrites) {
   EXPECT_NE(page().find("```xml\n" + text + "```\n"), std::string::npos) << text;
 }
 
-/// The `words` of a text, each with a blank behind it.
-std::string words(std::string const& text, char const* pattern) {
-  const std::regex word(pattern);
-  std::string found;
-  for (std::sregex_iterator at(text.begin(), text.end(), word), end; at != end; ++at)
-    found += (*at)[1].str() + ' ';
-  return found;
-}
-
 /// What is saved of a descriptor: its attributes behind the tag and the length, and its children.
 template <class Descriptor>
 std::string saved_names() {
   MemoryDom dom;
   auto const element = dom.element(u"it");
   Descriptor().SaveSection(dom.document().get(), element.get());
-  std::istringstream lines(written(element.get()));
-  std::string names, line;
-  std::getline(lines, line);
-  names = words(line, " (\\w+)=").substr(std::string("descriptor_id descriptor_length ").size()) + "| ";
-  while (std::getline(lines, line)) {
-    if (line.find_first_not_of(' ') == 2) names += words(line, "^  (\\w+)");
+  std::string names;
+  while (attribute_count(element.get()) > 0) names += take_attribute(element.get(), 0) + ' ';
+  names += "| ";
+  for (std::size_t i = 0; i < child_count(element.get()); ++i) {
+    names += name_of(child_at(element.get(), i).get()) + ' ';
+  }
+  return names.substr(std::string("descriptor_id descriptor_length ").size());
+}
+
+/// The names in backticks in a cell of the page; of a list the item's stands behind "of", which is left out.
+std::string names_in(std::string const& cell) {
+  std::string names;
+  for (std::size_t at = cell.find('`'); at != std::string::npos;) {
+    const std::size_t end = cell.find('`', at + 1);
+    const bool is_item = at >= 3 && cell.compare(at - 3, 3, "of ") == 0;
+    if (!is_item) names += cell.substr(at + 1, end - at - 1) + ' ';
+    at = cell.find('`', end + 1);
   }
   return names;
 }
 
-/// What the page lists of it; lists are named with their items, which an empty one does not have.
+/// What the page lists of a descriptor.
 std::string listed_names(std::string const& element) {
-  std::smatch row;
-  const std::string text = page();
-  const std::regex pattern("\n\\| 0x.. \\| `" + element + "` \\| (.*) \\| (.*) \\|\n");
-  if (!std::regex_search(text, row, pattern)) return "no such row";
-  return words(row[1], "`(\\w+)`") + "| " + words(row[2], "(?:list|child) `(\\w+)`");
+  std::istringstream lines(page());
+  const std::string cell = "| `" + element + "` | ";
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t at = line.find(cell);
+    if (at == std::string::npos || line.compare(0, 4, "| 0x") != 0) continue;
+    const std::size_t attributes = at + cell.size();
+    const std::size_t children = line.find(" | ", attributes);
+    return names_in(line.substr(attributes, children - attributes)) + "| " + names_in(line.substr(children));
+  }
+  return "no such row";
 }
 
 TEST(XmlFormatPage, ListsWhatEveryDescriptorHas) {
