@@ -40,7 +40,9 @@ inline std::string spelled(double value) {
   return {digits, std::to_chars(std::begin(digits), std::end(digits), value).ptr};
 }
 
-inline std::string spelled(std::string const& value) { return "'" + printable(value) + "'"; }
+inline std::string spelled(std::string const& value) {
+  return std::string("'").append(printable(value)) + '\'';
+}
 
 inline std::string spelled(std::vector<unsigned char> const& bytes) {
   std::string text = "<";
