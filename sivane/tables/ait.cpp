@@ -12,28 +12,20 @@ constexpr int head_size = 4;
 constexpr int entry_head_size = 9;
 
 constexpr Failure descriptors_mismatch{error::length_error, "application common descriptors length mismatch"};
+constexpr Failure application_too_small{error::length_error, "application length to small"};
 constexpr Failure applications_mismatch{error::length_error, "application length mismatch"};
-
-int length_field(Reader& reader) {
-  reader.skip_bits(4);
-  return reader.bits(12);
-}
-
-void require_entry_head(int left) {
-  if (left < entry_head_size) raise({error::length_error, "application length to small"});
-}
 
 }  // namespace
 
 Ait::Application::Application(unsigned char const* data, int available, int& consumed) {
-  require_entry_head(available);
+  require_head(available, entry_head_size, application_too_small);
   Reader reader = entry_reader(data, entry_head_size, applications_mismatch);
   *this = Application(reader);
   consumed = reader.consumed();
 }
 
 Ait::Application::Application(Reader& reader) {
-  require_entry_head(reader.left());
+  require_head(reader.left(), entry_head_size, application_too_small);
   application_identifer = ApplicationIdentifier(reader);
   application_control_code = reader.u8();
   application_descriptors_loop_length = length_field(reader);

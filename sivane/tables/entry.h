@@ -1,13 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Internal: entries of tables, which all end their head with four reserved bits and the length of what
-// follows.
+// Internal: the length fields of tables, and their entries, whose heads all end with one.
 #pragma once
 
 #include <sivane/foundation/reader.h>
 
 namespace sivane {
+
+/// Four reserved bits and a length of 12.
+inline int length_field(Reader& reader) {
+  reader.skip_bits(4);
+  return reader.bits(12);
+}
+
+/// Throws `failure` where an entry's head does not fit in what is left for it.
+inline void require_head(int available, int head_size, Failure failure = too_little_data) {
+  if (available < head_size) raise(failure);
+}
 
 /// A reader of the entry at a bare pointer, whose own length field is its only bound.
 inline Reader entry_reader(unsigned char const* data, int head_size, Failure overrun) {

@@ -18,15 +18,6 @@ int pid_field(Reader& reader) {
   return reader.bits(13);
 }
 
-int length_field(Reader& reader) {
-  reader.skip_bits(4);
-  return reader.bits(12);
-}
-
-void require_entry_head(int left) {
-  if (left < entry_head_size) raise(too_little_data);
-}
-
 void dump_host_descriptors(std::ostream& os,
                            std::vector<std::shared_ptr<DescriptorBase const>> const& descriptors) {
   for (auto const& descriptor : descriptors) descriptor->dump_state(os);
@@ -49,14 +40,14 @@ void append(std::vector<DescriptorCa>& out, std::vector<DescriptorCa> const& mor
 }  // namespace
 
 PmtStreamInfo::PmtStreamInfo(_PMT_INFO* entry, int& size) {
-  require_entry_head(size);
+  require_head(size, entry_head_size);
   Reader reader = entry_reader(entry->bytes, entry_head_size, start_end_mismatch);
   *this = PmtStreamInfo(reader);
   size = reader.consumed();
 }
 
 PmtStreamInfo::PmtStreamInfo(Reader& reader) {
-  require_entry_head(reader.left());
+  require_head(reader.left(), entry_head_size);
   stream_type = reader.u8();
   elementary_pid = pid_field(reader);
   es_info_length = length_field(reader);

@@ -11,21 +11,17 @@ namespace {
 constexpr int entry_head_size = 5;
 constexpr int reserved_byte = 8;
 
-void require_entry_head(int left) {
-  if (left < entry_head_size) raise(too_little_data);
-}
-
 }  // namespace
 
 Sdt::Service_info::Service_info(unsigned char const* data, int& size) {
-  require_entry_head(size);
+  require_head(size, entry_head_size);
   Reader reader = entry_reader(data, entry_head_size, start_end_mismatch);
   *this = Service_info(reader);
   size = reader.consumed();
 }
 
 Sdt::Service_info::Service_info(Reader& reader) {
-  require_entry_head(reader.left());
+  require_head(reader.left(), entry_head_size);
   service_id = reader.u16();
   reader.skip_bits(6);
   EIT_schedule_flag = reader.bits(1);

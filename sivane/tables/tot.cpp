@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump.h>
+#include <sivane/tables/entry.h>
 #include <sivane/tables/tot.h>
 
 #include <ostream>
@@ -10,8 +11,7 @@ namespace sivane {
 void Tot::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   UTC_time = DateTime(reader);
-  reader.skip_bits(4);
-  const int descriptors_loop_length = reader.bits(12);
+  const int descriptors_loop_length = length_field(reader);
   if (!parse_descriptors(reader, descriptors_loop_length, start_end_mismatch)) raise(start_end_mismatch);
   crc32 = reader.u32();
 }

@@ -10,25 +10,20 @@ namespace {
 
 constexpr int entry_head_size = 6;
 
-void require_entry_head(int available) {
-  if (available < entry_head_size) raise(too_little_data);
-}
-
 }  // namespace
 
 TransportStreamEntry::TransportStreamEntry(unsigned char const* data, int& size) {
-  require_entry_head(size);
+  require_head(size, entry_head_size);
   Reader reader = entry_reader(data, entry_head_size, start_end_mismatch);
   *this = TransportStreamEntry(reader, size);
   size = reader.consumed();
 }
 
 TransportStreamEntry::TransportStreamEntry(Reader& reader, int available) {
-  require_entry_head(available);
+  require_head(available, entry_head_size);
   stream_id = reader.u16();
   network_id = reader.u16();
-  reader.skip_bits(4);
-  const int transport_descriptors_length = reader.bits(12);
+  const int transport_descriptors_length = length_field(reader);
   parse_descriptors(reader, transport_descriptors_length, start_end_mismatch);
 }
 

@@ -156,11 +156,17 @@ class Archive {
   CComPtr<IXMLDOMNamedNodeMap> map_;
 };
 
+/// Saves the fields that `name_fields` names to the archive.
+template <class Object, class NameFields>
+bool save(Object const& object, void* document, void* element, NameFields name_fields) {
+  Archive archive(document, element);
+  name_fields(archive, const_cast<Object&>(object));  // which an archive that saves does not change
+  return archive.ok();
+}
+
 template <class Object>
 bool save(Object const& object, void* document, void* element) {
-  Archive archive(document, element);
-  fields(archive, const_cast<Object&>(object));  // which an archive that saves does not change
-  return archive.ok();
+  return save(object, document, element, [](Archive& archive, Object& same) { fields(archive, same); });
 }
 
 template <class Object>

@@ -108,9 +108,7 @@ bool AitDescriptorSet::_parse_descriptors(void* node) {
 }
 
 bool DescriptorBase::SaveSection(void* document, void* element) const {
-  Archive archive(document, element);
-  head(archive, const_cast<DescriptorBase&>(*this));  // which an archive that saves does not change
-  return archive.ok() && _save_section(document, element);
+  return xml::save(*this, document, element, head) && _save_section(document, element);
 }
 
 void DescriptorBase::Parse(void* node) {

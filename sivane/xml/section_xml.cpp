@@ -33,9 +33,7 @@ void header(Archive& ar, PsiBase& t) {
 
 template <class Frame>
 bool save_header(Frame const& table, void* document, void* element) {
-  Archive archive(document, element);
-  header(archive, const_cast<Frame&>(table));  // which an archive that saves does not change
-  return archive.ok();
+  return xml::save(table, document, element, [](Archive& ar, Frame& same) { header(ar, same); });
 }
 
 template <class Frame>
