@@ -48,8 +48,8 @@ std::vector<unsigned char> noise(std::size_t size) {
 
 void byte_loop_against_crc(benchmark::State& state) {
   constexpr std::size_t amount = 200000;
-  const auto size = static_cast<std::size_t>(state.range(0));
-  const auto bytes = noise(amount / size * size);
+  auto const size = static_cast<std::size_t>(state.range(0));
+  auto const bytes = noise(amount / size * size);
   std::uint32_t theirs = 0;
   std::uint32_t ours = 0;
   sivane::bench::compare(

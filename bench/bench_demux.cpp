@@ -54,7 +54,7 @@ Bytes unhandled_stream(std::size_t size) {
 }
 
 void push_unhandled(benchmark::State& state) {
-  const Bytes stream = unhandled_stream(static_cast<std::size_t>(state.range(0)) * 1000000);
+  Bytes const stream = unhandled_stream(static_cast<std::size_t>(state.range(0)) * 1000000);
   CountingHost host;
   bool whole = true;
   sivane::bench::compare(
@@ -67,7 +67,7 @@ Bytes pat_of_size(std::size_t size) {
   constexpr std::size_t without_programs = 12;
   std::vector<sivane::testing::Program> programs;
   for (std::size_t at = without_programs; at + 4 <= size; at += 4) {
-    const int number = static_cast<int>(programs.size());
+    int const number = static_cast<int>(programs.size());
     programs.push_back({number, 0x100 + number});
   }
   return sivane::testing::make_pat(programs);
@@ -87,7 +87,7 @@ void copy_payloads(Bytes const& stream, std::size_t section_size) {
 
 void push_sections(benchmark::State& state) {
   constexpr std::size_t stream_size = 500000;
-  const Bytes section = pat_of_size(static_cast<std::size_t>(state.range(0)));
+  Bytes const section = pat_of_size(static_cast<std::size_t>(state.range(0)));
   PacketWriter one;
   one.section(section_pid, section);
   Bytes stream;

@@ -25,18 +25,18 @@ Bytes prefixed(std::string_view characters) {
 
 /// One loop an owner: streams of a program map, services, events, transponders.
 std::vector<Bytes> loops() {
-  const Bytes subtitles = make_descriptor(0x59, hex("646575 10 0001 0001 656E67 10 0002 0002"));
-  const Bytes teletext = make_descriptor(0x56, hex("646575 09 00 646575 11 50"));
-  const Bytes service =
+  Bytes const subtitles = make_descriptor(0x59, hex("646575 10 0001 0001 656E67 10 0002 0002"));
+  Bytes const teletext = make_descriptor(0x56, hex("646575 09 00 646575 11 50"));
+  Bytes const service =
       make_descriptor(0x48, Bytes{0x01} + prefixed("Harbour Media") + prefixed("Harbour One"));
-  const Bytes event = make_descriptor(0x4D, text("eng") + prefixed("The lighthouse keeper") +
+  Bytes const event = make_descriptor(0x4D, text("eng") + prefixed("The lighthouse keeper") +
                                                 prefixed("A documentary in three parts about the coast"));
-  const Bytes long_event = make_descriptor(
+  Bytes const long_event = make_descriptor(
       0x4E,
       Bytes{0x00} + text("eng") + Bytes{0} +
           prefixed("Sixty years of storms, ships and letters home, told by those who kept the light burning, "
                    "and by the gulls. With pictures from the archive of the harbour office."));
-  const Bytes satellite = make_descriptor(0x43, hex("01175850 0192 C9 02750003"));
+  Bytes const satellite = make_descriptor(0x43, hex("01175850 0192 C9 02750003"));
   return {
       make_descriptor(0x52, {0x01}) + make_descriptor(0x09, hex("0500 E1F5")),
       make_descriptor(0x52, {0x02}) + make_descriptor(0x0A, hex("656E67 00")),
@@ -66,7 +66,7 @@ int descriptors_in(std::vector<Bytes> const& all) {
 void parse(std::vector<Bytes> const& all, std::vector<sivane::DescriptorSet>& owners) {
   owners.clear();
   for (Bytes const& loop : all) {
-    const int size = static_cast<int>(loop.size());
+    int const size = static_cast<int>(loop.size());
     sivane::Reader reader = sivane::Reader::within(loop.data(), size);
     owners.emplace_back().parse_descriptors(reader, size, sivane::too_little_data);
   }
@@ -83,16 +83,16 @@ void keep_bytes(std::vector<Bytes> const& all, std::vector<std::vector<Bytes>>& 
 
 void parse_descriptors(benchmark::State& state) {
   constexpr int rounds = 1000;
-  const std::vector<Bytes> all = loops();
+  std::vector<Bytes> const all = loops();
   std::size_t bytes = 0;
   for (Bytes const& loop : all) bytes += loop.size() * rounds;
   std::vector<sivane::DescriptorSet> owners;
   std::vector<std::vector<Bytes>> copies;
-  const auto repeat = [](auto once) {
+  auto const repeat = [](auto once) {
     for (int i = 0; i < rounds; ++i) once();
   };
   parse(all, owners);  // the vector of owners has its memory from here on
-  const std::size_t taken = sivane::testing::allocations_of([&] { parse(all, owners); });
+  std::size_t const taken = sivane::testing::allocations_of([&] { parse(all, owners); });
   sivane::bench::compare(
       state, bytes, "the time of keeping the bytes of each in a block of memory",
       [&] { repeat([&] { parse(all, owners); }); }, [&] { repeat([&] { keep_bytes(all, copies); }); });

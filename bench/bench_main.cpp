@@ -20,7 +20,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
 
  private:
   void report(Run const& run) {
-    const std::string name = name_of(run);
+    std::string const name = name_of(run);
     if (run.error_occurred) {
       std::printf("%s: FAILED, %s\n", name.c_str(), run.error_message.c_str());
       failed = true;
@@ -33,9 +33,9 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
     std::fflush(stdout);
   }
   static std::string both_sides(Run const& run) {
-    const double bytes = number(run, "bytes");
-    const double time = number(run, "time");
-    const double yardstick_time = number(run, "yardstick_time");
+    double const bytes = number(run, "bytes");
+    double const time = number(run, "time");
+    double const yardstick_time = number(run, "yardstick_time");
     char text[80];
     if (bytes > 0) {
       std::snprintf(text, sizeof text, "%.0f against %.0f MB/s", bytes / time / 1e6,
@@ -46,13 +46,13 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
     return text;
   }
   static void print_if_counted(Run const& run, char const* counter, char const* format) {
-    const auto found = run.counters.find(counter);
+    auto const found = run.counters.find(counter);
     if (found != run.counters.end()) std::printf(format, name_of(run).c_str(), found->second.value);
   }
   /// The argument of a run stands where its name has a '#'.
   static std::string name_of(Run const& run) {
     std::string name = run.run_name.function_name;
-    const std::size_t place = name.find('#');
+    std::size_t const place = name.find('#');
     return place == std::string::npos ? name : name.replace(place, 1, run.run_name.args);
   }
   static double number(Run const& run, char const* name) { return run.counters.at(name).value; }
@@ -64,6 +64,6 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   RatioReporter reporter;
-  const std::size_t run = benchmark::RunSpecifiedBenchmarks(&reporter);
+  std::size_t const run = benchmark::RunSpecifiedBenchmarks(&reporter);
   return run > 0 && !reporter.failed ? 0 : 1;
 }

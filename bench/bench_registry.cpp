@@ -38,13 +38,13 @@ std::vector<int> ids_of(Map const& map) {
 template <class Id>
 void look_up(benchmark::State& state, char const* (*name_of)(int), sivane::registry::Table<Id> const& table) {
   sivane::init();
-  const Map map = map_of(table);
-  const std::vector<int> ids = ids_of(map);
+  Map const map = map_of(table);
+  std::vector<int> const ids = ids_of(map);
   std::size_t ours = 0;
   std::size_t theirs = 0;
-  const auto sum = [&ids](auto find) {
+  auto const sum = [&ids](auto find) {
     std::size_t letters = 0;
-    for (const int id : ids) letters += static_cast<unsigned char>(*find(id));
+    for (int const id : ids) letters += static_cast<unsigned char>(*find(id));
     return letters;
   };
   sivane::bench::compare(

@@ -51,7 +51,7 @@ Bytes pmt(int program) {
 }
 
 Bytes nit() {
-  const auto transport = [](int id) {
+  auto const transport = [](int id) {
     return word(id) +
            "0001 F( 43[ 01175850 0192 C9 02750003 ] 41[ 0001 01 0002 01 0003 02 0004 19 ]"
            " 5F[ 00000028 ] 83[ 0001FC01 0002FC02 ] )";
@@ -60,7 +60,7 @@ Bytes nit() {
 }
 
 Bytes sdt() {
-  const auto service = [](int id) {
+  auto const service = [](int id) {
     return word(id) + "FF 8( 48[ 01 [ \"Harbour Media\" ] [ \"Harbour One\" ] ] 53[ 0500 0600 ] )";
   };
   return section("42 B(", 1, "0001 FF" + repeat(services, service));
@@ -87,7 +87,7 @@ struct SiStream {
 SiStream si_stream() {
   PacketWriter writer;
   std::size_t count = 0;
-  const auto add = [&](int pid, std::vector<Bytes> const& sections) {
+  auto const add = [&](int pid, std::vector<Bytes> const& sections) {
     writer.dense_sections(pid, sections);
     count += sections.size();
   };
@@ -152,13 +152,13 @@ class ParsingHost final : public SiHost {
 class CheckingHost final : public SiHost {
  protected:
   void on_psi_section(int, int, int, unsigned char const* section) override {
-    const std::size_t size = 3u + (section[1] & 0xFu) * 256u + section[2];
+    std::size_t const size = 3u + (section[1] & 0xFu) * 256u + section[2];
     good += sivane::crc_register(section, size) == 0 ? 1u : 0u;
   }
 };
 
 void parse_tables(benchmark::State& state) {
-  const SiStream stream = si_stream();
+  SiStream const stream = si_stream();
   ParsingHost parsing;
   CheckingHost checking;
   std::size_t rounds = 0;
@@ -169,7 +169,7 @@ void parse_tables(benchmark::State& state) {
         ++rounds;
       },
       [&] { checking.push(stream.bytes); });
-  const std::size_t expected = rounds * stream.sections;
+  std::size_t const expected = rounds * stream.sections;
   if (parsing.good != expected || checking.good != expected) state.SkipWithError("sections were lost");
   state.counters["sections"] = static_cast<double>(stream.sections) / state.counters["time"];
 }

@@ -27,16 +27,16 @@ Bytes text(std::string_view characters) { return {characters.begin(), characters
 
 /// Sections of 20 events each, as a schedule has them.
 sivane::Eit large_eit() {
-  const Bytes name =
+  Bytes const name =
       make_descriptor(0x4D, text("eng") + Bytes{21} + text("The lighthouse keeper") + Bytes{42} +
                                 text("A documentary in three parts about the sea"));
-  const Bytes loop =
+  Bytes const loop =
       name + make_descriptor(0x50, hex("F1 03 01 656E67")) + make_descriptor(0x54, hex("2300"));
   Bytes body = hex("0001 0002 00 50");
   for (int event = 0; event < 20; ++event) {
     body = body + hex("1234 C079 124500 014530 80") + Bytes{static_cast<unsigned char>(loop.size())} + loop;
   }
-  const Bytes section = sivane::testing::make_section({.table_id = 0x50}, body);
+  Bytes const section = sivane::testing::make_section({.table_id = 0x50}, body);
   sivane::Eit eit;
   for (int i = 0; i < 50; ++i) eit.Parse(section.data());
   return eit;
@@ -58,8 +58,8 @@ Plain plain_of(std::string const& line) {
   std::size_t end = std::min(line.find(' ', at), line.size());
   element.name = wide(line.substr(at, end - at));
   while (end < line.size()) {
-    const std::size_t equals = line.find('=', end);
-    const std::size_t quote = line.find('"', equals + 2);
+    std::size_t const equals = line.find('=', end);
+    std::size_t const quote = line.find('"', equals + 2);
     element.attributes.emplace_back(wide(line.substr(end + 1, equals - end - 1)),
                                     wide(line.substr(equals + 2, quote - equals - 2)));
     end = quote + 1;
@@ -69,7 +69,7 @@ Plain plain_of(std::string const& line) {
 
 Plain plain_tree(sivane::Eit const& eit) {
   sivane::testing::MemoryDom dom;
-  const auto root = dom.element(u"eit");
+  auto const root = dom.element(u"eit");
   eit.SaveSection(dom.document().get(), root.get());
   std::istringstream lines(sivane::testing::written(root.get()));
   std::string line;
@@ -124,8 +124,8 @@ std::size_t walk(sivane::IXMLDOMNode* node, Plain const& tree) {
 }
 
 void save_eit(benchmark::State& state) {
-  const sivane::Eit eit = large_eit();
-  const Plain tree = plain_tree(eit);
+  sivane::Eit const eit = large_eit();
+  Plain const tree = plain_tree(eit);
   std::string saved, built;
   sivane::bench::compare(
       state, 0, "the time of building the same tree",
@@ -143,11 +143,11 @@ void save_eit(benchmark::State& state) {
 }
 
 void load_eit(benchmark::State& state) {
-  const sivane::Eit eit = large_eit();
-  const Plain tree = plain_tree(eit);
+  sivane::Eit const eit = large_eit();
+  Plain const tree = plain_tree(eit);
   Document document;
   eit.SaveSection(document.dom(), document.make_root("eit").get());
-  const CComPtr<sivane::IXMLDOMNode> root = document.root_node();
+  CComPtr<sivane::IXMLDOMNode> const root = document.root_node();
   std::size_t events = 0;
   std::size_t letters = 0;
   sivane::bench::compare(

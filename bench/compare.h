@@ -18,14 +18,14 @@ using Clock = std::chrono::steady_clock;
 
 template <class Work>
 double seconds_of(Work& work) {
-  const auto start = Clock::now();
+  auto const start = Clock::now();
   work();
   return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
 /// The value below which `share` of the samples lie.
 inline double quantile(std::vector<double> samples, double share) {
-  const auto index = static_cast<std::ptrdiff_t>(share * static_cast<double>(samples.size() - 1));
+  auto const index = static_cast<std::ptrdiff_t>(share * static_cast<double>(samples.size() - 1));
   std::nth_element(samples.begin(), samples.begin() + index, samples.end());
   return samples[static_cast<std::size_t>(index)];
 }

@@ -21,7 +21,7 @@ class DemuxHost : public Driver {
   template <class... Arguments>
   explicit DemuxHost(Input script, Arguments&&... arguments)
       : Driver(std::forward<Arguments>(arguments)...), script_(script) {
-    for (const int pid : fuzzed_pids) this->add_psi_handler(pid, 0x00);
+    for (int const pid : fuzzed_pids) this->add_psi_handler(pid, 0x00);
   }
 
   /// Calls `drive` and checks what the handlers hold behind it. A hook's own failure is no finding.
@@ -66,7 +66,7 @@ class DemuxHost : public Driver {
   void on_psi_section(int, int table_id, int section_number, unsigned char const* section) override {
     bool found = false;
     for (auto const& [pid, handler] : this->pid_handlers) {
-      const auto entry = handler->psi_handlers.find(table_id);
+      auto const entry = handler->psi_handlers.find(table_id);
       if (entry == handler->psi_handlers.end() || entry->second->section != section) continue;
       found = section[0] == table_id && section[6] == section_number;
       check_whole(*entry->second);
@@ -97,9 +97,9 @@ class DemuxHost : public Driver {
 
   void act() {
     static constexpr std::array table_ids = {0x00, 0x02, 0x42, 0xFF};
-    const unsigned int action = script_.byte();
-    const int pid = fuzzed_pids[action >> 3 & 3];
-    const int table_id = table_ids[action >> 5 & 3];
+    unsigned int const action = script_.byte();
+    int const pid = fuzzed_pids[action >> 3 & 3];
+    int const table_id = table_ids[action >> 5 & 3];
     switch (action & 7) {
       case 1:
         return this->add_psi_handler(pid, table_id);

@@ -17,16 +17,16 @@ class PushHost final : public DemuxHost<DemuxPush> {
 
   void push(std::vector<unsigned char> const& buffer) {
     // A block of its own size lets the address sanitizer see the first byte that is read behind it.
-    const auto block = std::make_unique<unsigned char[]>(buffer.size());
+    auto const block = std::make_unique<unsigned char[]>(buffer.size());
     std::copy(buffer.begin(), buffer.end(), block.get());
-    const int size = static_cast<int>(buffer.size());
+    int const size = static_cast<int>(buffer.size());
     packets_seen = 0;
     run([&] { check_result(push_data(block.get(), size), block.get(), size); });
   }
 
  private:
   void check_result(int result, unsigned char const* block, int size) const {
-    const int read = packets_seen * ts_packet_size;
+    int const read = packets_seen * ts_packet_size;
     if (size % ts_packet_size != 0) {
       check(result == -1 && read == 0, "a buffer of no whole number of packets is not read");
     } else if (result == 0) {
@@ -48,7 +48,7 @@ class PolledHost final : public DemuxHost<Demux2> {
   using Demux2::read_buf;
   bool read_buf(int, unsigned char* buffer, int size, int& got) override {
     std::vector<unsigned char> packet;
-    const unsigned char control = append_packet(packet, packets_);
+    unsigned char const control = append_packet(packet, packets_);
     std::memcpy(buffer, packet.data(), packet.size());
     got = (control & odd_size) != 0 ? size - 1 : size;
     return (control & cut_behind) == 0;

@@ -50,9 +50,9 @@ void exercise_table(unsigned char const* section, std::size_t available) {
   }
   check(table.valid, "a parsed table is valid");
   check(static_cast<std::size_t>(table.section_length) + 3 <= available, "a parsed section is whole");
-  const std::string text = dump_of(table);
+  std::string const text = dump_of(table);
   Table copy = table;
-  const Table moved = std::move(table);
+  Table const moved = std::move(table);
   check(dump_of(copy) == text, "a copy dumps like its original");
   check(dump_of(moved) == text, "a table dumps the same after a move");
   copy.Parse(section, available);

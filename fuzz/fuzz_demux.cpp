@@ -17,7 +17,7 @@ void run_push(Input script, Input packets) {
   PushHost host(script);
   std::vector<unsigned char> buffer;
   while (!packets.empty()) {
-    const unsigned char control = append_packet(buffer, packets);
+    unsigned char const control = append_packet(buffer, packets);
     if (!packets.empty() && (control & cut_behind) == 0) continue;
     if ((control & odd_size) != 0) buffer.push_back(sivane::ts_sync_byte);
     host.push(buffer);
@@ -46,9 +46,9 @@ void run_polled(Input script, Input packets) {
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   constexpr std::array runs = {&run_push, &run_istream, &run_polled};
   Input input(data, size);
-  const std::size_t driver = input.byte() % runs.size();
-  const std::size_t script_size = input.byte();
-  const Input script = input.part(script_size);
+  std::size_t const driver = input.byte() % runs.size();
+  std::size_t const script_size = input.byte();
+  Input const script = input.part(script_size);
   runs[driver](script, input);
   return 0;
 }

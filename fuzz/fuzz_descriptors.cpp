@@ -56,7 +56,7 @@ void exercise_loop(std::vector<unsigned char> const& block) {
       check(failure.what() != nullptr, "what() is never null");
     }
   }
-  const Set copy = set;
+  Set const copy = set;
   set = {};
   exercise(copy);
 }
@@ -65,9 +65,9 @@ void exercise_loop(std::vector<unsigned char> const& block) {
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   sivane::fuzzing::Input input(data, size);
-  const bool is_ait = (input.byte() & 1) != 0;
+  bool const is_ait = (input.byte() & 1) != 0;
   // A block of its own size: the address sanitizer sees each byte behind it.
-  const std::vector<unsigned char> block = input.rest();
+  std::vector<unsigned char> const block = input.rest();
   is_ait ? exercise_loop<sivane::AitDescriptorSet>(block) : exercise_loop<sivane::DescriptorSet>(block);
   return 0;
 }

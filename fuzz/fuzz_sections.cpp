@@ -27,14 +27,14 @@ constexpr std::array exercises = {
 };
 
 void fit_length(Bytes& section) {
-  const std::size_t length = std::min<std::size_t>(section.size() - 3, 0xFFF);
+  std::size_t const length = std::min<std::size_t>(section.size() - 3, 0xFFF);
   section[1] = static_cast<unsigned char>((section[1] & 0xF0) | length >> 8);
   section[2] = static_cast<unsigned char>(length & 0xFF);
 }
 
 /// The section ends where its length says; the bytes behind it stay.
 void fit_crc(Bytes& bytes) {
-  const std::size_t size = static_cast<std::size_t>((bytes[1] & 0xF) << 8 | bytes[2]) + 3;
+  std::size_t const size = static_cast<std::size_t>((bytes[1] & 0xF) << 8 | bytes[2]) + 3;
   if (size < 4 || size > bytes.size()) return;
   Bytes section(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
   sivane::testing::repair_crc(section);
@@ -45,12 +45,12 @@ void fit_crc(Bytes& bytes) {
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
   sivane::fuzzing::Input input(data, size);
-  const unsigned int choice = input.byte();
+  unsigned int const choice = input.byte();
   Bytes bytes = input.rest();
   if (bytes.size() >= 3 && (choice & 1) != 0) fit_length(bytes);
   if (bytes.size() >= 3 && (choice & 2) != 0) fit_crc(bytes);
   // A block of its own size lets the address sanitizer see the first byte that is read behind it.
-  const auto block = std::make_unique<unsigned char[]>(bytes.size());
+  auto const block = std::make_unique<unsigned char[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), block.get());
   exercises[(choice >> 2) % exercises.size()](block.get(), bytes.size());
   return 0;

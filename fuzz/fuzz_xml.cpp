@@ -22,8 +22,8 @@ using sivane::fuzzing::dump_of;
 template <class Table>
 std::string saved(Table const& table) {
   Document document;
-  const CComPtr<sivane::IXMLDOMElement> root = document.make_root("table");
-  const bool answer = table.SaveSection(document.dom(), root.get());
+  CComPtr<sivane::IXMLDOMElement> const root = document.make_root("table");
+  bool const answer = table.SaveSection(document.dom(), root.get());
   check(answer != std::is_same_v<Table, sivane::DsmCC>,
         "only the payload of DSM-CC has no form in documents");
   return document.save_string();
@@ -40,8 +40,8 @@ void exercise(sivane::IXMLDOMNode* node) {
     return;
   }
   check(table.valid, "a loaded table is valid");
-  const std::string text = saved(table);
-  const Document again = Document::load_string(text);
+  std::string const text = saved(table);
+  Document const again = Document::load_string(text);
   Table loaded;
   loaded.Parse(static_cast<void*>(again.root_node().get()));
   check(dump_of(loaded) == dump_of(table), "a table dumps the same after its document");

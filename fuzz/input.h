@@ -23,13 +23,13 @@ class Input {
   }
   /// At most `count` bytes.
   std::vector<unsigned char> bytes(std::size_t count) {
-    const Input taken = part(count);
+    Input const taken = part(count);
     return {taken.data_, taken.data_ + taken.left_};
   }
   std::vector<unsigned char> rest() { return bytes(left_); }
   /// The next `count` bytes, to be handed out apart from the others.
   Input part(std::size_t count) {
-    const Input result(data_, std::min(count, left_));
+    Input const result(data_, std::min(count, left_));
     data_ += result.left_;
     left_ -= result.left_;
     return result;

@@ -29,10 +29,10 @@ constexpr std::size_t header_size = 4;
 Bytes compact_packet(Bytes const& packet, unsigned char cut) {
   std::size_t end = packet_size;
   while (end > header_size && packet[end - 1] == 0xFF) --end;
-  const int pid_index = packet[2] == 0x10 ? 1 : 0;
-  const int start = (packet[1] & 0x40) != 0 ? 4 : 0;
-  const int adaptation = (packet[3] & 0x20) != 0 ? 8 : 0;
-  const std::size_t count = end - header_size;
+  int const pid_index = packet[2] == 0x10 ? 1 : 0;
+  int const start = (packet[1] & 0x40) != 0 ? 4 : 0;
+  int const adaptation = (packet[3] & 0x20) != 0 ? 8 : 0;
+  std::size_t const count = end - header_size;
   Bytes compact(2 + count);
   compact[0] = static_cast<unsigned char>(pid_index | start | adaptation | cut);
   compact[1] = static_cast<unsigned char>(count);
@@ -81,13 +81,13 @@ PacketWriter long_section() {
 }
 
 void write_demux(fs::path const& folder) {
-  const Bytes idle;
-  const Bytes filters{0x03, 0x23, 0x0B};                           // adds filters of three sizes
-  const Bytes removals{0x00, 0x02, 0x01, 0x00, 0x06, 0x01};        // removes, adds, resets and adds again
-  const Bytes failures{0x00, 0x07, 0x00, 0x07, 0x07, 0x04, 0x05};  // throws, stops, dumps
-  const std::string drivers[] = {"push", "istream", "polled"};
+  Bytes const idle;
+  Bytes const filters{0x03, 0x23, 0x0B};                           // adds filters of three sizes
+  Bytes const removals{0x00, 0x02, 0x01, 0x00, 0x06, 0x01};        // removes, adds, resets and adds again
+  Bytes const failures{0x00, 0x07, 0x00, 0x07, 0x07, 0x04, 0x05};  // throws, stops, dumps
+  std::string const drivers[] = {"push", "istream", "polled"};
   for (unsigned char driver = 0; driver < 3; ++driver) {
-    const std::string name = drivers[driver];
+    std::string const name = drivers[driver];
     write(folder / (name + "-broadcast"), demux_input(driver, idle, broadcast()));
     write(folder / (name + "-filters"), demux_input(driver, filters, broadcast()));
     write(folder / (name + "-removals"), demux_input(driver, removals, broadcast()));
@@ -100,7 +100,7 @@ void write_demux(fs::path const& folder) {
 
 void write_sections(fs::path const& folder) {
   constexpr unsigned char as_it_is = 0, fitted = 3;
-  for (const int programs : {0, 1, 5, 253, 1000}) {
+  for (int const programs : {0, 1, 5, 253, 1000}) {
     write(folder / ("pat-" + std::to_string(programs)), Bytes{as_it_is} + pat_of(programs));
   }
   write(folder / "pat-length-5", Bytes{as_it_is} + sivane::testing::hex("00 B0 05 0001 C1 00 00"));
@@ -117,7 +117,7 @@ void write_sections(fs::path const& folder) {
 std::string one_of_each(std::initializer_list<char const*> names) {
   std::map<int, std::string> by_tag;
   for (char const* const name : names) {
-    const auto cases = sivane::testing::read_cases(std::string("descriptors/cases/") + name + ".txt");
+    auto const cases = sivane::testing::read_cases(std::string("descriptors/cases/") + name + ".txt");
     for (auto const& one : cases) by_tag.emplace(sivane::testing::assemble(one.bytes)[0], one.bytes);
   }
   std::string all;
@@ -127,12 +127,12 @@ std::string one_of_each(std::initializer_list<char const*> names) {
 
 /// A section of each class that the case files of descriptors fill.
 void write_rich_sections(fs::path const& folder) {
-  const std::string all =
+  std::string const all =
       one_of_each({"mpeg_systems", "network", "service", "event", "stream", "cell", "general"});
-  const std::string ait = one_of_each({"ait"});
-  const std::string start = "B( 1234 C1 00 00 ";
-  const std::string streams = "F( 09[ 0500 E1F5 ] 15[] ) F( 0001 0002 F(" + all + ") 0003 0004 F() ) crc )";
-  const std::pair<std::string, std::string> sections[] = {
+  std::string const ait = one_of_each({"ait"});
+  std::string const start = "B( 1234 C1 00 00 ";
+  std::string const streams = "F( 09[ 0500 E1F5 ] 15[] ) F( 0001 0002 F(" + all + ") 0003 0004 F() ) crc )";
+  std::pair<std::string, std::string> const sections[] = {
       // behind the Pat, in the order of the classes in fuzz_sections.cpp
       {"cat", "01" + start + "09[ 0500 E1F5 41 ] 09[ 0600 E001 ] crc )"},
       {"pmt", "02" + start + "E1FF F( 09[ 0500 E1F5 ] ) 1B E100 F(" + all + ") 06 E101 F() crc )"},
@@ -151,7 +151,7 @@ void write_rich_sections(fs::path const& folder) {
   constexpr unsigned int fitted = 3;
   unsigned int number = 0;
   for (auto const& [name, section] : sections) {
-    const auto choice = static_cast<unsigned char>(++number << 2 | fitted);
+    auto const choice = static_cast<unsigned char>(++number << 2 | fitted);
     write(folder / ("rich-" + name), Bytes{choice} + sivane::testing::assemble(section));
   }
 }
@@ -170,8 +170,8 @@ Bytes all_tags(unsigned char set, int last_tag, int length, int first_byte, int 
 
 void write_descriptors(fs::path const& folder) {
   constexpr unsigned char dvb = 0, ait = 1;
-  for (const int length : {0, 1, 3, 5, 9, 26}) {
-    const std::string name = "all-tags-" + std::to_string(length);
+  for (int const length : {0, 1, 3, 5, 9, 26}) {
+    std::string const name = "all-tags-" + std::to_string(length);
     write(folder / (name + "-zeros"), all_tags(dvb, 0x80, length, 0x00, 0));
     write(folder / (name + "-counting"), all_tags(dvb, 0x80, length, 0x01, 1));
     write(folder / ("ait-tags-" + std::to_string(length)), all_tags(ait, 0x0E, length, 0x00, 1));
@@ -183,7 +183,7 @@ void write_descriptors(fs::path const& folder) {
 
 int main(int argc, char** argv) {
   if (argc != 2) return 2;
-  const fs::path corpora = argv[1];
+  fs::path const corpora = argv[1];
   write_demux(corpora / "demux");
   write_sections(corpora / "sections");
   write_rich_sections(corpora / "sections");

@@ -26,15 +26,15 @@ enum Control : unsigned char {
 
 /// Appends one packet to `stream` and gives its control byte.
 inline unsigned char append_packet(std::vector<unsigned char>& stream, Input& input) {
-  const unsigned char control = input.byte();
-  const int pid = fuzzed_pids[control & pid_mask];
-  const bool lost_sync = (control & sync_mask) == sync_mask;
-  const std::size_t end = stream.size() + static_cast<std::size_t>(ts_packet_size);
+  unsigned char const control = input.byte();
+  int const pid = fuzzed_pids[control & pid_mask];
+  bool const lost_sync = (control & sync_mask) == sync_mask;
+  std::size_t const end = stream.size() + static_cast<std::size_t>(ts_packet_size);
   stream.push_back(lost_sync ? 0x48 : ts_sync_byte);
   stream.push_back(static_cast<unsigned char>((control & unit_start) << 4 | pid >> 8));
   stream.push_back(static_cast<unsigned char>(pid & 0xFF));
   stream.push_back((control & adaptation_field) != 0 ? 0x30 : 0x10);
-  const auto bytes = input.bytes(input.byte() % 185);
+  auto const bytes = input.bytes(input.byte() % 185);
   stream.insert(stream.end(), bytes.begin(), bytes.end());
   stream.resize(end, 0xFF);
   return control;

@@ -32,8 +32,8 @@ bool replay(fs::path const& path) {
     std::cerr << "cannot read " << path << '\n';
     return false;
   }
-  const std::vector<char> text{std::istreambuf_iterator<char>(file), {}};
-  const std::vector<std::uint8_t> bytes(text.begin(), text.end());
+  std::vector<char> const text{std::istreambuf_iterator<char>(file), {}};
+  std::vector<std::uint8_t> const bytes(text.begin(), text.end());
   LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
   return true;
 }

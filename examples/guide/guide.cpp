@@ -21,7 +21,7 @@ class Receiver final : public sivane::DemuxPush {
   int program_maps = 0;
 
  protected:
-  void on_psi_section(int pid, int table_id, int, const unsigned char* section) override {
+  void on_psi_section(int pid, int table_id, int, unsigned char const* section) override {
     if (table_id == 0x00) {
       follow_programs(section);
     } else {
@@ -31,10 +31,10 @@ class Receiver final : public sivane::DemuxPush {
   }
 
  private:
-  void follow_programs(const unsigned char* section) {
+  void follow_programs(unsigned char const* section) {
     sivane::Pat pat;
     pat.Parse(section);
-    for (const sivane::Pat::program_info& program : pat.program_infos) {
+    for (sivane::Pat::program_info const& program : pat.program_infos) {
       if (program.program_number != 0) add_psi_handler(program.program_map_pid, 0x02);
     }
   }
@@ -60,12 +60,12 @@ class EventCounter final : public sivane::DemuxPush {
 
 // A section that came from elsewhere
 
-void print_section(const std::vector<unsigned char>& bytes) {
+void print_section(std::vector<unsigned char> const& bytes) {
   sivane::Pat pat;
   try {
     pat.Parse(bytes.data(), bytes.size());
     pat.dump_state(std::cout);
-  } catch (const sivane::error& failure) {
+  } catch (sivane::error const& failure) {
     std::cout << "error " << failure.code << ' ' << failure.what() << '\n';
   }
 }
@@ -79,11 +79,11 @@ class ServiceNames final : public sivane::DemuxPush {
   std::map<int, std::string> names;  // by service_id
 
  protected:
-  void on_psi_section(int, int, int, const unsigned char* section) override {
+  void on_psi_section(int, int, int, unsigned char const* section) override {
     sivane::Sdt sdt;
     sdt.Parse(section);
-    for (const sivane::Sdt::Service_info& service : sdt.service_infos) {
-      for (const sivane::DescriptorService& descriptor : service.get_service_descriptors()) {
+    for (sivane::Sdt::Service_info const& service : sdt.service_infos) {
+      for (sivane::DescriptorService const& descriptor : service.get_service_descriptors()) {
         names[service.service_id] = descriptor.service_name;
       }
     }
@@ -92,14 +92,14 @@ class ServiceNames final : public sivane::DemuxPush {
 
 // Documents
 
-std::string as_document(const sivane::Pat& pat) {
+std::string as_document(sivane::Pat const& pat) {
   sivane::dom::Document document;
   pat.SaveSection(document.dom(), document.make_root("pat").get());
   return document.save_string();
 }
 
-sivane::Pat from_document(const std::string& text) {
-  const sivane::dom::Document document = sivane::dom::Document::load_string(text);
+sivane::Pat from_document(std::string const& text) {
+  sivane::dom::Document const document = sivane::dom::Document::load_string(text);
   sivane::Pat pat;
   pat.Parse(document.root_node().get());
   return pat;
@@ -107,7 +107,7 @@ sivane::Pat from_document(const std::string& text) {
 
 // Registered names
 
-void print_scrambling(const sivane::DescriptorCa& ca) {
+void print_scrambling(sivane::DescriptorCa const& ca) {
   std::cout << "scrambled by " << sivane::get_ca_system_id(ca.sys_id) << '\n';
 }
 
@@ -115,26 +115,26 @@ int main(int argc, char** argv) {
   std::ifstream file(argc > 1 ? argv[1] : "", std::ios::binary);
   std::vector<char> text{std::istreambuf_iterator<char>(file), {}};
   std::vector<unsigned char> stream(text.begin(), text.end());
-  const int size = static_cast<int>(stream.size());
+  int const size = static_cast<int>(stream.size());
 
   Receiver receiver;
   EventCounter events;
   ServiceNames services;
-  const bool whole = receiver.push_data(stream.data(), size) == 0 &&
+  bool const whole = receiver.push_data(stream.data(), size) == 0 &&
                      events.push_data(stream.data(), size) == 0 &&
                      services.push_data(stream.data(), size) == 0;
   std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections\n";
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
-  for (const auto& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
+  for (auto const& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
 
   sivane::Pat pat;
   pat.program_infos.resize(2);
-  const bool survives = from_document(as_document(pat)).program_infos.size() == 2;
+  bool const survives = from_document(as_document(pat)).program_infos.size() == 2;
 
   sivane::init();
-  const unsigned char ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
+  unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  const bool found = receiver.program_maps > 0 && events.sections > 0 && !services.names.empty();
+  bool const found = receiver.program_maps > 0 && events.sections > 0 && !services.names.empty();
   return whole && found && survives ? 0 : 1;
 }

@@ -32,12 +32,12 @@ class Noise {
 
 /// A PES packet of a video stream over `packets` transport packets, the last with an adaptation field.
 void write_picture(PacketWriter& writer, int pid, int packets, Noise& noise) {
-  const Bytes pes_header = sivane::testing::hex("00 00 01 e0 00 00 80 00 00");
+  Bytes const pes_header = sivane::testing::hex("00 00 01 e0 00 00 80 00 00");
   for (int i = 0; i < packets; ++i) {
-    const bool last = i == packets - 1;
+    bool const last = i == packets - 1;
     sivane::testing::Packet packet{.pid = pid, .start = i == 0, .adaptation = last ? 60 : -1};
     if (packet.start) packet.payload = pes_header;
-    const std::size_t room = last ? 184 - 61 : 184;
+    std::size_t const room = last ? 184 - 61 : 184;
     while (packet.payload.size() < room) packet.payload.push_back(noise.next());
     writer.packet(std::move(packet));
   }
@@ -59,7 +59,7 @@ Bytes make_stream() {
   PacketWriter writer;
   Noise noise;
   for (int round = 0; round < 4; ++round) {
-    const int version = round / 2;
+    int const version = round / 2;
     write_tables(writer, version, {18, 12, 5 * round});
     for (Service const& service : services(version)) {
       write_picture(writer, service.streams.front().pid, 6, noise);
@@ -79,7 +79,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   std::ofstream file(argv[1], std::ios::binary);
-  const sample::Bytes stream = sample::make_stream();
+  sample::Bytes const stream = sample::make_stream();
   file.write(reinterpret_cast<char const*>(stream.data()), static_cast<std::streamsize>(stream.size()));
   file.close();
   if (!file) std::cerr << "sivane-make-sample: cannot write " << argv[1] << '\n';

@@ -98,9 +98,9 @@ Bytes pmt(Service const& service) {
 Bytes nit(int version) {
   Bytes list;
   for (Service const& service : services(version)) list = list + u16(service.id) + u8(service.type);
-  const Bytes stream = u16(transport_stream_id) + u16(network_id) +
+  Bytes const stream = u16(transport_stream_id) + u16(network_id) +
                        loop_field(make_descriptor(0x41, list) + terrestrial_delivery_system_descriptor());
-  const Bytes name = make_descriptor(0x40, characters("Lantern Coast"));
+  Bytes const name = make_descriptor(0x40, characters("Lantern Coast"));
   return make_section({.table_id = 0x40, .context_id = network_id, .version_number = version},
                       loop_field(name) + loop_field(stream));
 }
@@ -110,7 +110,7 @@ Bytes sdt(int version) {
   for (Service const& service : services(version)) {
     constexpr int present_following_only = 0xFD;
     constexpr int running = 4 << 1;
-    const int scrambled = service.descriptors.empty() ? 0 : 1;
+    int const scrambled = service.descriptors.empty() ? 0 : 1;
     body = body + u16(service.id) + u8(present_following_only) +
            loop_field(service_descriptor(service), running | scrambled);
   }

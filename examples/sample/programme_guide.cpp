@@ -31,7 +31,7 @@ constexpr Event events[] = {
 };
 
 Bytes descriptors_of(Event const& event) {
-  const Bytes language = characters(event.language);
+  Bytes const language = characters(event.language);
   Bytes descriptors = make_descriptor(0x4D, language + text_field(event.name) + text_field(event.text)) +
                       make_descriptor(0x54, u8(event.content) + u8(0x00));
   // The rating is the minimum age minus 3.
@@ -43,7 +43,7 @@ Bytes eit(Event const& event, int section_number) {
   constexpr int present_following_actual = 0x4E;
   constexpr int not_running = 1 << 1;
   constexpr int running = 4 << 1;
-  const Bytes body = u16(transport_stream_id) + u16(network_id) + u8(1) + u8(present_following_actual) +
+  Bytes const body = u16(transport_stream_id) + u16(network_id) + u8(1) + u8(present_following_actual) +
                      u16(event.id) + time_field(event.start) + bcd(event.duration) +
                      loop_field(descriptors_of(event), section_number == 0 ? running : not_running);
   return sivane::testing::make_section({.table_id = present_following_actual,
@@ -70,7 +70,7 @@ Bytes tdt(Time now) { return sivane::testing::make_short_section(0x70, time_fiel
 
 Bytes tot(Time now) {
   // Greenwich time, and an hour ahead of it from the last Sunday of March on (day 61128, 01:00 UTC).
-  const Bytes offset = characters("GBR") + u8(0x02) + u16(0x0000) + u16(61128) + bcd({1, 0, 0}) + u16(0x0100);
+  Bytes const offset = characters("GBR") + u8(0x02) + u16(0x0000) + u16(61128) + bcd({1, 0, 0}) + u16(0x0100);
   Bytes section = sivane::testing::make_short_section(
       0x73, time_field(now) + loop_field(make_descriptor(0x58, offset)) + Bytes(4));
   sivane::testing::repair_crc(section);

@@ -12,12 +12,12 @@ class Host final : public sivane::DemuxIstream {
   explicit Host(std::istream& stream) : DemuxIstream(stream) { add_psi_handler(0x0000, 0x00); }
 
  protected:
-  void on_psi_section(int pid, int, int, const unsigned char* section) override {
+  void on_psi_section(int pid, int, int, unsigned char const* section) override {
     try {
       sivane::Pat pat;
       pat.Parse(section);
       pat.dump_state(std::cout);
-    } catch (const sivane::error& failure) {
+    } catch (sivane::error const& failure) {
       std::cerr << "PID " << pid << ": " << failure.what() << '\n';
     }
   }

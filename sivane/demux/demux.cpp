@@ -57,7 +57,7 @@ void Demux::add_psi_handler(int pid, unsigned char const* value, unsigned char c
 }
 
 void Demux::remove_psi_handler(int pid, int table_id) {
-  const auto entry = pid_handlers.find(pid);
+  auto const entry = pid_handlers.find(pid);
   if (entry == pid_handlers.end()) return;
   entry->second->RemovePsiHandler(table_id);
   if (entry->second->psi_handlers.empty()) drop_pid(entry);
@@ -95,7 +95,7 @@ int Demux::start() {
 
 void Demux::route_packet(unsigned char const* packet) {
   TSHeader header(packet);
-  const Payload payload = show_packet(header, packet);
+  Payload const payload = show_packet(header, packet);
   if (is_handled(header.pid))
     pid_handlers.find(header.pid)->second->parse(header, payload.data, payload.size);
 }
@@ -105,7 +105,7 @@ Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* p
   int offset = header_size;
   if (has_adaptation_field(header)) {
     int field_length = 0;
-    const AdaptionFieldHeader field(packet + header_size, field_length);
+    AdaptionFieldHeader const field(packet + header_size, field_length);
     offset = std::min(header_size + field_length, ts_packet_size);
     on_adaption_field_header_(field, packet + offset);
   }
@@ -124,7 +124,7 @@ Demux::PidHandler& Demux::handler_for(int pid) {
 }
 
 void Demux::drop_pid(std::map<int, PidHandler*>::iterator entry) {
-  const auto [pid, handler] = *entry;
+  auto const [pid, handler] = *entry;
   std::unique_ptr<PidHandler> owned(handler);
   if (deliveries_ > 0) {
     owned->removed_ = true;

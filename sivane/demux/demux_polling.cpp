@@ -24,7 +24,7 @@ int Demux2::start() {
 }
 
 void Demux2::poll(int pid, unsigned char* packet, int& length) {
-  const bool result = read_buf(pid, packet, ts_packet_size, length);
+  bool const result = read_buf(pid, packet, ts_packet_size, length);
   log_write(3, "read_buf(%d)=%d", length, result ? 1 : 0);
   if (!result || length != ts_packet_size) return;
   log_write(3, "bytes read");
@@ -35,8 +35,8 @@ void Demux2::poll(int pid, unsigned char* packet, int& length) {
     return;
   }
   TSHeader header(packet);
-  const Payload payload = show_packet(header, packet);
-  const auto entry = pid_handlers.find(pid);
+  Payload const payload = show_packet(header, packet);
+  auto const entry = pid_handlers.find(pid);
   if (entry != pid_handlers.end()) entry->second->parse(header, payload.data, payload.size);
 }
 

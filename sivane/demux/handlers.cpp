@@ -107,14 +107,14 @@ Demux::PidHandler::~PidHandler() {
 }
 
 void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int size) {
-  const Delivery delivery(demux);
+  Delivery const delivery(demux);
   log_write(3, "Demux::PidHandler::parse()");
   if (size < 1) return;
   if (header.payload_unit_start_indicator != 1) {
     continue_section(header, data, size);
     return;
   }
-  const int pointer = data[0];
+  int const pointer = data[0];
   if (is_pes_start(data, size) || pointer > size - 1) return;
   if (pointer > 0) continue_section(header, data + 1, pointer);
   start_section(header, data + 1 + pointer, size - 1 - pointer);
@@ -122,7 +122,7 @@ void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int s
 
 void Demux::PidHandler::start_section(TSHeader const& header, unsigned char const* data, int size) {
   if (removed_) return;
-  const auto entry = size > 0 ? psi_handlers.find(data[0]) : psi_handlers.end();
+  auto const entry = size > 0 ? psi_handlers.find(data[0]) : psi_handlers.end();
   PSIHandler* handler = entry != psi_handlers.end() ? entry->second : nullptr;
   if (handler != nullptr) handler->parse(header, true, data, size);
   current = handler != nullptr && !handler->removed_ ? handler : nullptr;
@@ -160,7 +160,7 @@ void Demux::PidHandler::AddPsiHandler(unsigned char const* value, unsigned char 
 }
 
 void Demux::PidHandler::RemovePsiHandler(int table_id) {
-  const auto entry = psi_handlers.find(table_id);
+  auto const entry = psi_handlers.find(table_id);
   if (entry == psi_handlers.end()) return;
   std::unique_ptr<PSIHandler> handler(entry->second);
   psi_handlers.erase(entry);

@@ -55,7 +55,7 @@ void DescriptorAitApplication::_dump_state(std::ostream& os) const {
   dump::line(os, "service_bound_flag: ", service_bound_flag);
   dump::line(os, "visibility: ", visibility);
   dump::line(os, "application_priority: ", application_priority);
-  for (const unsigned char label : transport_protocol_labels) {
+  for (unsigned char const label : transport_protocol_labels) {
     dump::line(os, "transport_protocol_label: ", label);
   }
 }

@@ -137,7 +137,7 @@ char const* DescriptorContent::Content::get_content_nibble_level1_text() const {
 }
 
 char const* DescriptorContent::Content::get_content_nibble_level2_text() const {
-  const int index = content_nibble_level1 * 16 + content_nibble_level2 - 16;
+  int const index = content_nibble_level1 * 16 + content_nibble_level2 - 16;
   constexpr int count = static_cast<int>(sizeof level2_texts / sizeof *level2_texts) * 16;
   if (index < 0 || index >= count) return undefined;
   return value_text(level2_texts[index / 16], index % 16, undefined);

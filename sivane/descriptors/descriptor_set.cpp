@@ -27,7 +27,7 @@ constexpr std::array<unsigned char, 256> row_of_tag = rows_of_tags(rows);
 }  // namespace
 
 void DescriptorSet::ParseDescriptor(DescriptorBytes descriptor) {
-  const int row = row_of_tag[static_cast<std::size_t>(descriptor.tag())];
+  int const row = row_of_tag[static_cast<std::size_t>(descriptor.tag())];
   rows[row].parse(groups_, row, descriptor);
 }
 

@@ -53,7 +53,7 @@ struct DescriptorStorage {
 
   template <class Descriptor>
   static std::vector<Descriptor> const& items(DescriptorGroups const& groups, int row) {
-    static const std::vector<Descriptor> none;
+    static std::vector<Descriptor> const none;
     Group const* group = groups.first_.get();
     while (group != nullptr && group->row < row) group = group->next.get();
     if (group == nullptr || group->row != row) return none;
@@ -108,8 +108,8 @@ void parse_into_row(DescriptorGroups& groups, int row, DescriptorBytes bytes) {
 /// The row of each tag: its own; without one, `user_private` from 0x80 on and `other` below.
 template <std::size_t count>
 constexpr std::array<unsigned char, 256> rows_of_tags(DescriptorRow const (&rows)[count]) {
-  const auto row_of = [&rows](int tag) {
-    const int kind = tag < 0x80 ? DescriptorRow::other : DescriptorRow::user_private;
+  auto const row_of = [&rows](int tag) {
+    int const kind = tag < 0x80 ? DescriptorRow::other : DescriptorRow::user_private;
     std::size_t without_class = 0;
     for (std::size_t row = 0; row < count; ++row) {
       if (rows[row].tag == tag) return row;

@@ -35,7 +35,7 @@ DescriptorExtendedEvent::DescriptorExtendedEvent(DescriptorBytes d) : Descriptor
   descriptor_number = r.bits(4);
   last_descriptor_number = r.bits(4);
   r.code(language_code);
-  const int length_of_items = r.u8();
+  int const length_of_items = r.u8();
   items = r.sub(length_of_items, item_failure).walk<Item>();
   text.parse(r);
 }

@@ -210,7 +210,7 @@ DescriptorCopyright::DescriptorCopyright(DescriptorBytes d) : DescriptorBase(d) 
 void DescriptorCopyright::_dump_state(std::ostream& os) const {
   line(os, "copyright_identifier:", copyright_identifier);
   os << "additional_copyright_info: ";
-  for (const int byte : additional_copyright_info) os << ' ' << byte;
+  for (int const byte : additional_copyright_info) os << ' ' << byte;
   os << std::endl;
 }
 

@@ -27,15 +27,15 @@ char32_t from_xml(char32_t c) {
 
 /// The code point at `at`, and steps over it; half a pair stands for itself.
 char32_t next_code_point(std::u16string_view text, std::size_t& at) {
-  const char32_t first = text[at++];
+  char32_t const first = text[at++];
   if (!is_high_surrogate(first) || at == text.size() || !is_low_surrogate(text[at])) return first;
   return 0x10000 + ((first - 0xD800) << 10) + (text[at++] - 0xDC00U);
 }
 
 /// The same for UTF-8.
 char32_t next_code_point(std::string_view text, std::size_t& at) {
-  const auto first = static_cast<unsigned char>(text[at++]);
-  const int more = first < 0xC0 ? 0 : first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
+  auto const first = static_cast<unsigned char>(text[at++]);
+  int const more = first < 0xC0 ? 0 : first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
   char32_t c = more == 0 ? first : first & (0x3FU >> more);
   for (int i = 0; i < more && at < text.size(); ++i)
     c = c << 6 | (static_cast<unsigned char>(text[at++]) & 0x3FU);
@@ -43,7 +43,7 @@ char32_t next_code_point(std::string_view text, std::size_t& at) {
 }
 
 void append_utf8(std::string& text, char32_t c) {
-  const int more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+  int const more = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
   constexpr char32_t first_byte[] = {0, 0xC0, 0xE0, 0xF0};
   text += static_cast<char>(first_byte[more] | c >> (6 * more));
   for (int i = more - 1; i >= 0; --i) text += static_cast<char>(0x80U | (c >> (6 * i) & 0x3FU));

@@ -72,7 +72,7 @@ Document Document::load_string(std::string_view text) {
 
 void Document::save_file(std::string const& path) const {
   explained("save " + path, [&] {
-    const std::string text = write(*tree_);
+    std::string const text = write(*tree_);
     std::ofstream file(path, std::ios::binary);
     file << text << std::flush;
     if (!file) throw error(system_reason().c_str());
@@ -90,7 +90,7 @@ CComPtr<IXMLDOMElement> Document::make_root(std::string const& name) {
 }
 
 CComPtr<IXMLDOMElement> Document::root_element() const {
-  const pugi::xml_node root = tree_->root();
+  pugi::xml_node const root = tree_->root();
   if (!root) throw error("the document has no root element");
   return element_node(tree_, root);
 }

@@ -36,7 +36,7 @@ class Counted : public Interface {
 
   long AddRef() final { return ++references_; }
   long Release() final {
-    const long left = --references_;
+    long const left = --references_;
     if (left == 0) delete this;
     return left;
   }
@@ -169,7 +169,7 @@ class Document final : public Parent<IXMLDOMDocument> {
     return S_OK;
   }
   long createElement(char16_t const* name, IXMLDOMElement** element) override {
-    const std::string text = to_utf8(name);
+    std::string const text = to_utf8(name);
     if (!is_name(text)) return E_FAIL;
     return give(element, element_node(tree(), append_element(tree()->unplaced, text.c_str())));
   }
@@ -234,8 +234,8 @@ long Parent<Interface>::get_childNodes(IXMLDOMNodeList** children) {
 template <class Interface>
 long Parent<Interface>::selectSingleNode(char16_t const* name, IXMLDOMNode** node) {
   *node = nullptr;
-  const std::string wanted = to_utf8(name);
-  for (const pugi::xml_node child : node_) {
+  std::string const wanted = to_utf8(name);
+  for (pugi::xml_node const child : node_) {
     if (child.type() == pugi::node_element && child.name() == wanted)
       return give(node, view_of(tree_, child));
   }
@@ -257,12 +257,12 @@ long Element::setAttributeNode(IXMLDOMAttribute* attribute, IXMLDOMAttribute** o
 /// it is; an element without children needs no such test, and while it is unplaced nobody else refers to it,
 /// so that it can as well be made anew.
 bool Element::move_to(pugi::xml_node parent) {
-  const pugi::xml_node before = node();
+  pugi::xml_node const before = node();
   if (before.parent() != tree()->unplaced || before.first_child() || before == parent) {
     return static_cast<bool>(parent.append_move(before));
   }
-  const pugi::xml_node after = append_element(parent, before.name());
-  for (const pugi::xml_attribute attribute : before.attributes()) {
+  pugi::xml_node const after = append_element(parent, before.name());
+  for (pugi::xml_attribute const attribute : before.attributes()) {
     append_attribute(after, attribute.name(), attribute.value());
   }
   set_node(after);

@@ -28,10 +28,10 @@ class Reader {
   }
 
   void read(std::string_view text) {
-    const XML_Status status = XML_Parse(parser_.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
+    XML_Status const status = XML_Parse(parser_.get(), text.data(), static_cast<int>(text.size()), XML_TRUE);
     if (failure_) std::rethrow_exception(failure_);
     if (status == XML_STATUS_OK) return;
-    const XML_Error code = XML_GetErrorCode(parser_.get());
+    XML_Error const code = XML_GetErrorCode(parser_.get());
     if (code == XML_ERROR_NO_MEMORY) throw std::bad_alloc();
     refuse(code == XML_ERROR_NO_ELEMENTS && levels_ > 0 ? "unclosed element" : XML_ErrorString(code));
   }
@@ -99,7 +99,7 @@ class Reader {
   }
 
   [[noreturn]] void refuse(std::string const& reason) const {
-    const auto line = XML_GetCurrentLineNumber(parser_.get());
+    auto const line = XML_GetCurrentLineNumber(parser_.get());
     throw error(("line " + std::to_string(line) + ": " + reason).c_str());
   }
 

@@ -24,7 +24,7 @@ bool is_too_deep(pugi::xml_node root) {
   int level = 1;
   for (pugi::xml_node node = root; node;) {
     if (level > max_levels && node.type() == pugi::node_element) return true;
-    if (const pugi::xml_node child = node.first_child()) {
+    if (pugi::xml_node const child = node.first_child()) {
       node = child;
       ++level;
       continue;
@@ -41,12 +41,12 @@ bool is_too_deep(pugi::xml_node root) {
 }  // namespace
 
 std::string write(Tree const& tree) {
-  const pugi::xml_node root = tree.root();
+  pugi::xml_node const root = tree.root();
   if (!root) throw error("there is no root element");
   if (is_too_deep(root)) throw error(("more than " + std::to_string(max_levels) + " levels").c_str());
   StringWriter writer;
   writer.text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-  for (const pugi::xml_node node : tree.document)
+  for (pugi::xml_node const node : tree.document)
     node.print(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
   return std::move(writer.text);
 }

@@ -21,7 +21,7 @@ void append_hex(std::string& text, unsigned int value, std::size_t digits) {
 template <class Entry>
 void append_entries(std::vector<Entry> const& data, std::string& text, std::size_t digits) {
   text.reserve(text.size() + data.size() * digits);
-  for (const Entry entry : data) append_hex(text, static_cast<unsigned int>(entry), digits);
+  for (Entry const entry : data) append_hex(text, static_cast<unsigned int>(entry), digits);
 }
 
 unsigned int group_value(char const* group, std::size_t digits) {
@@ -60,7 +60,7 @@ void bin2str(std::vector<unsigned long> const& data, std::string& text) {
 void str2bin(std::string const& text, unsigned char* data, int size) {
   std::vector<unsigned char> bytes;
   str2bin(text, bytes);
-  const std::size_t room = size > 0 ? static_cast<std::size_t>(size) : 0;
+  std::size_t const room = size > 0 ? static_cast<std::size_t>(size) : 0;
   std::copy_n(bytes.begin(), std::min(bytes.size(), room), data);
 }
 

@@ -32,8 +32,8 @@ unsigned int Reader::number(int count) {
   std::size_t bit = take(remaining);
   unsigned int value = 0;
   while (remaining > 0) {
-    const std::size_t in_byte = std::min(remaining, 8 - bit % 8);
-    const unsigned int chunk = *at(bit) >> (8 - bit % 8 - in_byte) & ((1u << in_byte) - 1);
+    std::size_t const in_byte = std::min(remaining, 8 - bit % 8);
+    unsigned int const chunk = *at(bit) >> (8 - bit % 8 - in_byte) & ((1u << in_byte) - 1);
     value = value << in_byte | chunk;
     bit += in_byte;
     remaining -= in_byte;
@@ -43,7 +43,7 @@ unsigned int Reader::number(int count) {
 
 double Reader::bcd(std::initializer_list<double> weights) {
   double value = 0;
-  for (const double weight : weights) value += bits(4) * weight;
+  for (double const weight : weights) value += bits(4) * weight;
   return value;
 }
 

@@ -16,10 +16,10 @@ int digit_value(char c) {
 }
 
 bool scan_number(char const*& text, unsigned int base, unsigned int& value) {
-  const auto is_digit = [base](char c) { return static_cast<unsigned int>(digit_value(c)) < base; };
+  auto const is_digit = [base](char c) { return static_cast<unsigned int>(digit_value(c)) < base; };
   char const* at = text;
   while (is_blank(*at)) ++at;
-  const bool negative = *at == '-';
+  bool const negative = *at == '-';
   if (*at == '-' || *at == '+') ++at;
   if (base == 16 && at[0] == '0' && (at[1] == 'x' || at[1] == 'X') && is_digit(at[2])) at += 2;
   if (!is_digit(*at)) return false;
@@ -32,7 +32,7 @@ bool scan_number(char const*& text, unsigned int base, unsigned int& value) {
 
 bool scan_number(char const*& text, unsigned int base, int& value) {
   auto number = static_cast<unsigned int>(value);
-  const bool found = scan_number(text, base, number);
+  bool const found = scan_number(text, base, number);
   value = static_cast<int>(number);
   return found;
 }

@@ -15,14 +15,14 @@ void Text::parse(unsigned char const* field, int& used) {
 void Text::parse(int length, unsigned char const* data) {
   if (length <= 0) return;
   char const* const text = reinterpret_cast<char const*>(data);
-  const int selector = is_char_table(text[0]) ? 1 : 0;
+  int const selector = is_char_table(text[0]) ? 1 : 0;
   append(text + selector, static_cast<std::size_t>(length - selector));
 }
 
 void Text::parse(Reader& reader) { parse(reader, reader.u8()); }
 
 bool Text::is_char_table(char c) {
-  const auto byte = static_cast<unsigned char>(c);
+  auto const byte = static_cast<unsigned char>(c);
   return byte <= 0x06 || (byte >= 0x0F && byte <= 0x12) || byte == 0x1F;
 }
 

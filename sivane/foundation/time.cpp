@@ -12,7 +12,7 @@ namespace sivane {
 namespace {
 
 int bcd_byte(Reader& reader) {
-  const int tens = reader.bits(4);
+  int const tens = reader.bits(4);
   return tens * 10 + reader.bits(4);
 }
 
@@ -29,10 +29,10 @@ std::ostream& write(std::ostream& os, Duration const& d) {
 void set_date(DateTime& date, int mjd) {
   constexpr double days_a_year = 365.25;
   constexpr double days_a_month = 30.6001;
-  const int y = static_cast<int>((mjd - 15078.2) * 0.0027378507871321013);
-  const int year_days = static_cast<int>(y * days_a_year);
-  const int m = static_cast<int>((mjd - 14956.1 - year_days) * 0.03267963176590926);
-  const int k = m == 14 || m == 15 ? 1 : 0;
+  int const y = static_cast<int>((mjd - 15078.2) * 0.0027378507871321013);
+  int const year_days = static_cast<int>(y * days_a_year);
+  int const m = static_cast<int>((mjd - 14956.1 - year_days) * 0.03267963176590926);
+  int const k = m == 14 || m == 15 ? 1 : 0;
   date.day = mjd - 14956 - year_days - static_cast<int>(m * days_a_month);
   date.month = m - 1 - 12 * k;
   date.year = y + k + 1900;
@@ -56,7 +56,7 @@ void DateTime::dump_state(std::ostream& os) const { write(os, *this) << std::end
 
 std::string DateTime::get_date_as_text() const {
   std::string text = std::to_string(day);
-  for (const int number : {month, year, hour, minute, second}) text += ' ' + std::to_string(number);
+  for (int const number : {month, year, hour, minute, second}) text += ' ' + std::to_string(number);
   return text;
 }
 

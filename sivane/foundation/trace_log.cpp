@@ -24,7 +24,7 @@ class Line {
   void append(char const* format, ...) __attribute__((format(printf, 2, 3))) {
     va_list arguments;
     va_start(arguments, format);
-    const int written = std::vsnprintf(bytes_ + size_, sizeof bytes_ - size_, format, arguments);
+    int const written = std::vsnprintf(bytes_ + size_, sizeof bytes_ - size_, format, arguments);
     va_end(arguments);
     size_ = std::min(size_ + static_cast<std::size_t>(std::max(written, 0)), sizeof bytes_ - 1);
   }
@@ -55,7 +55,7 @@ void append_local_time(Line& line) {
 char const* level_name(int level) { return level == 1 ? "error" : level == 2 ? "warning" : "info"; }
 
 void append_chosen_fields(Line& line, int level) {
-  const unsigned int chosen = trace_log.log_options;
+  unsigned int const chosen = trace_log.log_options;
   if (chosen & TraceLog::process_id) line.append("\"0x%08x\",", static_cast<unsigned int>(getpid()));
   if (chosen & TraceLog::thread_id) {
     line.append("\"0x%08x\",", static_cast<unsigned int>(syscall(SYS_gettid)));

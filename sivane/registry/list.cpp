@@ -37,13 +37,13 @@ std::uint32_t read_id(std::string_view text, std::size_t digits) {
 std::string latin1(std::string_view utf8) {
   std::string name;
   for (std::size_t i = 0; i < utf8.size(); ++i) {
-    const auto byte = static_cast<unsigned char>(utf8[i]);
+    auto const byte = static_cast<unsigned char>(utf8[i]);
     if (byte < 0x20 || byte == 0x7F) throw Bad("a tab or another control character in the name");
     if (byte < 0x80) {
       name += utf8[i];
       continue;
     }
-    const auto next = static_cast<unsigned char>(++i < utf8.size() ? utf8[i] : 0);
+    auto const next = static_cast<unsigned char>(++i < utf8.size() ? utf8[i] : 0);
     if ((byte != 0xC2 || next < 0xA0 || next > 0xBF) && (byte != 0xC3 || next < 0x80 || next > 0xBF)) {
       throw Bad("a character that ISO 8859-1 has not got");
     }
@@ -53,12 +53,12 @@ std::string latin1(std::string_view utf8) {
 }
 
 Run read_run(std::string_view line, std::size_t digits) {
-  const std::size_t tab = line.find('\t');
+  std::size_t const tab = line.find('\t');
   if (tab == std::string_view::npos) throw Bad("no tab between ids and name");
-  const std::string_view ids = line.substr(0, tab);
-  const std::size_t dash = std::min(ids.find('-'), ids.size());
-  const std::uint32_t first = read_id(ids.substr(0, dash), digits);
-  const std::uint32_t last = dash < ids.size() ? read_id(ids.substr(dash + 1), digits) : first;
+  std::string_view const ids = line.substr(0, tab);
+  std::size_t const dash = std::min(ids.find('-'), ids.size());
+  std::uint32_t const first = read_id(ids.substr(0, dash), digits);
+  std::uint32_t const last = dash < ids.size() ? read_id(ids.substr(dash + 1), digits) : first;
   if (last < first) throw Bad("the run ends before it begins");
   if (last - first >= longest_run) throw Bad("the run has more than 65536 ids");
   if (tab + 1 == line.size()) throw Bad("no name behind the tab");
@@ -70,7 +70,7 @@ class ListReader {
   void read_line(std::string_view line) {
     if (line.empty()) return end_head();
     if (list_.rows.empty()) list_.digits = line.find_first_of("-\t") == 10 ? 8 : 4;
-    const Run run = read_run(line, list_.digits);
+    Run const run = read_run(line, list_.digits);
     if (previous_ > run.first) throw Bad("begins at a lower id than the line above it");
     previous_ = run.first;
     for (std::uint32_t offset = 0; offset <= run.last - run.first; ++offset) {
@@ -94,7 +94,7 @@ class ListReader {
   }
   /// Rows of one id stay in the order of their lines.
   void sort(std::size_t from, std::size_t to) {
-    const auto row = [this](std::size_t i) { return list_.rows.begin() + static_cast<std::ptrdiff_t>(i); };
+    auto const row = [this](std::size_t i) { return list_.rows.begin() + static_cast<std::ptrdiff_t>(i); };
     std::stable_sort(row(from), row(to), [](Row const& a, Row const& b) { return a.id < b.id; });
   }
 

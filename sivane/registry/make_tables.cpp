@@ -24,7 +24,7 @@ using sivane::registry::List;
 class Names {
  public:
   std::size_t offset(std::string const& name) {
-    const auto [entry, is_new] = offsets_.try_emplace(name, size_);
+    auto const [entry, is_new] = offsets_.try_emplace(name, size_);
     if (is_new) {
       if (size_ > std::numeric_limits<std::uint16_t>::max()) {
         throw std::runtime_error("the names have outgrown the offsets of 16 bits");
@@ -57,7 +57,7 @@ void write_numbers(std::ostream& out, std::string const& type, std::string const
 }
 
 void write_table(std::ostream& out, std::string const& table, List const& list, Names& names) {
-  const std::string id = list.digits == 8 ? "uint32_t" : "uint16_t";
+  std::string const id = list.digits == 8 ? "uint32_t" : "uint16_t";
   out << "\nnamespace {\n";
   write_numbers(out, id, table + "_ids", list, [](auto const& row) { return row.id; });
   write_numbers(out, "uint16_t", table + "_names", list,
@@ -78,7 +78,7 @@ void write_texts(std::ostream& out, Names const& names) {
   out << "\nnamespace {\nconstexpr char texts[] =";
   for (std::string const& name : names.in_order()) {
     out << "\n\"";
-    for (const char c : name) write_character(out, c);
+    for (char const c : name) write_character(out, c);
     out << "\\0\"";
   }
   out << ";\n}\n";
@@ -105,7 +105,7 @@ std::string source_of(std::vector<std::string> const& lists) {
 int main(int argc, char** argv) {
   try {
     if (argc < 3) throw std::runtime_error("usage: make_tables OUTPUT LIST...");
-    const std::string source = source_of({argv + 2, argv + argc});
+    std::string const source = source_of({argv + 2, argv + argc});
     std::ofstream out(argv[1], std::ios::binary);
     out << source << std::flush;
     if (!out) throw std::runtime_error(std::string(argv[1]) + ": cannot be written");

@@ -18,7 +18,7 @@ template <class Id>
 Id const* find_last(std::span<Id const> ascending, std::uint32_t id) {
   Id const* at = ascending.data();
   for (std::size_t count = ascending.size(); count > 1;) {
-    const std::size_t half = count / 2;
+    std::size_t const half = count / 2;
     at += static_cast<std::size_t>(at[half] <= id) * half;
     count -= half;
   }
@@ -29,7 +29,7 @@ template <class Id>
 char const* find_name(registry::Table<Id> const& table, int id) {
   constexpr char const* unknown = "<unknown>";
   if (!is_open.load(std::memory_order_relaxed)) return unknown;
-  const auto number = static_cast<std::uint32_t>(id);
+  auto const number = static_cast<std::uint32_t>(id);
   Id const* found = find_last(table.ids.subspan(table.head), number);
   if (found == nullptr) found = find_last(table.ids.first(table.head), number);
   return found != nullptr ? table.name(static_cast<std::size_t>(found - table.ids.data())) : unknown;

@@ -10,7 +10,7 @@ void Cat::_parse(unsigned char const* body) {
   constexpr Failure invalid_tag{error::no_errorcode, "invalid descriptor tag"};
   Reader reader = body_reader(body, invalid_size);
   while (reader.more()) {
-    const DescriptorBytes descriptor = reader.descriptor();
+    DescriptorBytes const descriptor = reader.descriptor();
     if (reader.past_end()) raise(invalid_size);
     if (descriptor.tag() != ca_tag) raise(invalid_tag);
     ParseDescriptor(descriptor);

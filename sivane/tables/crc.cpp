@@ -24,7 +24,7 @@ constexpr Tables make_tables() {
   }
   for (std::size_t zeros = 1; zeros < stride; ++zeros) {
     for (std::size_t byte = 0; byte < 256; ++byte) {
-      const std::uint32_t crc = tables[zeros - 1][byte];
+      std::uint32_t const crc = tables[zeros - 1][byte];
       tables[zeros][byte] = tables[0][crc >> 24] ^ crc << 8;
     }
   }
@@ -36,7 +36,7 @@ constexpr Tables tables = make_tables();
 std::uint32_t update_stride(std::uint32_t crc, unsigned char const* data) {
   std::uint32_t result = 0;
   for (std::size_t i = 0; i < stride; ++i) {
-    const std::uint32_t held = i < 4 ? crc >> (24 - 8 * i) & 0xFF : 0;
+    std::uint32_t const held = i < 4 ? crc >> (24 - 8 * i) & 0xFF : 0;
     result ^= tables[stride - 1 - i][data[i] ^ held];
   }
   return result;

@@ -17,7 +17,7 @@ void parse_network_body(Table& table, Reader reader) {
   constexpr int size_without_loops = 4;
   reader.need(size_without_loops, too_little_data);
 
-  const int descriptors_length = length_field(reader);
+  int const descriptors_length = length_field(reader);
   // Where the last descriptor ends is not looked at.
   reader.each_descriptor(descriptors_length, start_end_mismatch, [&table](DescriptorBytes descriptor) {
     if (descriptor.tag() == ca_tag) {
@@ -27,7 +27,7 @@ void parse_network_body(Table& table, Reader reader) {
     }
   });
 
-  const int loop_length = length_field(reader);
+  int const loop_length = length_field(reader);
   Reader loop = reader.loop(loop_length, start_end_mismatch);
   // Each entry is told the length of the whole loop, so that only a loop too short for any has too little
   // data.

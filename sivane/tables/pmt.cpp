@@ -69,7 +69,7 @@ void PmtStreamInfo::dump_state(std::ostream& os) const {
 void Pmt::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   pcr_pid = pid_field(reader);
-  const int program_info_length = length_field(reader);
+  int const program_info_length = length_field(reader);
   if (!parse_descriptors(reader, program_info_length, start_end_mismatch)) raise(start_end_mismatch);
   while (reader.more()) stream_infos.emplace_back(reader);
   if (reader.past_end()) raise(start_end_mismatch);
@@ -84,8 +84,8 @@ void Pmt::_reset() {
 }
 
 void Pmt::_dump_state(std::ostream& os) const {
-  const std::ios::fmtflags flags = os.flags();
-  const std::streamsize width = os.width();
+  std::ios::fmtflags const flags = os.flags();
+  std::streamsize const width = os.width();
   os << std::hex << std::right << std::unitbuf << std::uppercase << std::setfill('0');
   dump::line(os, "program_number: ", context_id, 4);
   dump::line(os, "version_number: ", version_number, 2);

@@ -28,7 +28,7 @@ Sdt::Service_info::Service_info(Reader& reader) {
   EIT_present_following_flag = reader.bits(1);
   running_status = reader.bits(3);
   free_CA_mode = reader.bits(1);
-  const int descriptors_loop_length = reader.bits(12);
+  int const descriptors_loop_length = reader.bits(12);
   parse_descriptors(reader, descriptors_loop_length, start_end_mismatch);
 }
 

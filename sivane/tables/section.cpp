@@ -35,7 +35,7 @@ void require_whole(unsigned char const* section, std::size_t available) {
 }
 
 void check_crc(unsigned char const* section) {
-  const std::uint32_t crc = crc_register(section, static_cast<std::size_t>(section_size(section)));
+  std::uint32_t const crc = crc_register(section, static_cast<std::size_t>(section_size(section)));
   if (crc == 0) return;
   log_write(1, "crc error, got %#x expected 0xffffffff", ~crc);
   throw error("crc error");
@@ -69,7 +69,7 @@ void PsiTableBase::Parse(unsigned char const* section, std::size_t available) {
 }
 
 void PsiTableBase::read_header(unsigned char const* section) {
-  const int size = section_size(section);
+  int const size = section_size(section);
   if (size < long_header_size) raise(too_little_data);
   Reader reader = Reader::within(section, size);
   reader.skip_bits(short_header_size * 8);

@@ -11,7 +11,7 @@ namespace sivane {
 void Tot::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   UTC_time = DateTime(reader);
-  const int descriptors_loop_length = length_field(reader);
+  int const descriptors_loop_length = length_field(reader);
   if (!parse_descriptors(reader, descriptors_loop_length, start_end_mismatch)) raise(start_end_mismatch);
   crc32 = reader.u32();
 }

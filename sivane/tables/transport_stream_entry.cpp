@@ -23,7 +23,7 @@ TransportStreamEntry::TransportStreamEntry(Reader& reader, int available) {
   require_head(available, entry_head_size);
   stream_id = reader.u16();
   network_id = reader.u16();
-  const int transport_descriptors_length = length_field(reader);
+  int const transport_descriptors_length = length_field(reader);
   parse_descriptors(reader, transport_descriptors_length, start_end_mismatch);
 }
 

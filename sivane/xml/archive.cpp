@@ -64,7 +64,7 @@ void Archive::attr(char16_t const* name, char (&v)[4]) {
 
 void Archive::attr(char16_t const* name, unsigned char (&v)[16]) {
   if (!ok_) return;
-  const long result = saving() ? AddAttribute(document_.get(), element_.get(), name, v, sizeof v)
+  long const result = saving() ? AddAttribute(document_.get(), element_.get(), name, v, sizeof v)
                                : GetAttributeValue(map_.get(), name, v, sizeof v);
   if (result < 0) throw error(failed);
 }
@@ -84,7 +84,7 @@ void Archive::attr(char16_t const* name, ApplicationIdentifier& v) {
 
 void Archive::save_child(char16_t const* name, void (*save)(void*, void*, void*), void* record) {
   if (!ok_) return;
-  const CComPtr<IXMLDOMElement> child = create(document_.get(), name);
+  CComPtr<IXMLDOMElement> const child = create(document_.get(), name);
   ok_ = false;
   if (!child) return;
   save(record, document_.get(), child.get());
@@ -100,19 +100,19 @@ void Archive::list(char16_t const* name, char16_t const* item, Records records) 
     ok_ = ok_ && save_list(name, item, records);
     return;
   }
-  const std::string list_name = narrow_name(name);
-  const CComPtr<IXMLDOMNode> node = child_node(name);
-  const Children children(
+  std::string const list_name = narrow_name(name);
+  CComPtr<IXMLDOMNode> const node = child_node(name);
+  Children const children(
       node.get(), {"failed to get program_info list " + list_name, "failed to get length " + list_name,
                    "failed to get program_info node " + list_name});
   for (long i = 0; i < children.count(); ++i) records.load(records.vector, children.at(i).get());
 }
 
 bool Archive::save_list(char16_t const* name, char16_t const* item, Records records) {
-  const CComPtr<IXMLDOMElement> list_element = create(document_.get(), name);
+  CComPtr<IXMLDOMElement> const list_element = create(document_.get(), name);
   if (!list_element) return false;
   for (std::size_t i = 0; i < records.size; ++i) {
-    const CComPtr<IXMLDOMElement> element = create(document_.get(), item);
+    CComPtr<IXMLDOMElement> const element = create(document_.get(), item);
     if (!element) return false;
     records.save(records.vector, i, document_.get(), element.get());
     if (list_element->appendChild(element.get(), nullptr) < 0) return false;
@@ -126,17 +126,17 @@ void Archive::entries(char16_t const* name, char16_t const* item, Records record
     return;
   }
   // The words are the same for every table, whatever its list is called.
-  const Children children(
+  Children const children(
       select(node_.get(), name, "failed to get program_infos node").get(),
       {"failed to get program_info list", "failed to get length", "failed to get program_info node"});
   for (long i = 0; i < children.count(); ++i) records.load(records.vector, children.at(i).get());
 }
 
 bool Archive::save_entries(char16_t const* name, char16_t const* item, Records records) {
-  const CComPtr<IXMLDOMNode> list_node = append(element_.get(), create(document_.get(), name));
+  CComPtr<IXMLDOMNode> const list_node = append(element_.get(), create(document_.get(), name));
   if (!list_node) return false;
   for (std::size_t i = 0; i < records.size; ++i) {
-    const CComPtr<IXMLDOMElement> element =
+    CComPtr<IXMLDOMElement> const element =
         element_view(append(list_node.get(), create(document_.get(), item)));
     if (!element) return false;
     if (!records.save(records.vector, i, document_.get(), element.get())) return false;

@@ -28,7 +28,7 @@ std::optional<std::string> text_of(Map* map, Name name) {
 /// Hands the text to `take`, if there is one.
 template <class Take>
 long read(Map* map, Name name, Take take) {
-  const std::optional<std::string> text = text_of(map, name);
+  std::optional<std::string> const text = text_of(map, name);
   if (!text) return E_FAIL;
   take(*text);
   return S_OK;
@@ -59,7 +59,7 @@ long GetAttributeValue(Map* map, Name name, int& value) { return read_number(map
 
 long GetAttributeValue(Map* map, Name name, unsigned long& value) {
   unsigned int low_bits = 0;
-  const long result = read_number(map, name, low_bits);
+  long const result = read_number(map, name, low_bits);
   if (result == S_OK) value = low_bits;
   return result;
 }
@@ -70,7 +70,7 @@ long GetAttributeValue(Map* map, Name name, unsigned char& value) { return read_
 
 long GetAttributeValue(Map* map, Name name, bool& value) {
   int number = 0;
-  const long result = read_number(map, name, number);
+  long const result = read_number(map, name, number);
   if (result == S_OK) value = number == 1;
   return result;
 }
@@ -102,7 +102,7 @@ long GetAttributeValue(Map* map, Name name, std::vector<unsigned long>& value) {
 long GetAttributeValue(Map* map, Name name, char* value, int size) {
   return read(map, name, [&](std::string const& text) {
     if (size <= 0) return;
-    const auto room = static_cast<std::size_t>(size - 1);
+    auto const room = static_cast<std::size_t>(size - 1);
     std::strncpy(value, text.c_str(), room);
     value[room] = '\0';
   });
@@ -171,7 +171,7 @@ long AddAttribute(Document* doc, Element* element, Name name, unsigned char cons
 
 long AddAttribute(Document* doc, Element* element, Name name, tagVARIANT value) {
   CComPtr<IXMLDOMAttribute> attribute, old;
-  const bool stands = doc->createAttribute(name, attribute.receive()) >= 0 && attribute &&
+  bool const stands = doc->createAttribute(name, attribute.receive()) >= 0 && attribute &&
                       attribute->put_nodeValue(std::move(value)) >= 0 &&
                       element->setAttributeNode(attribute.get(), old.receive()) >= 0;
   return stands ? S_OK : E_FAIL;

@@ -50,10 +50,10 @@ constexpr ElementRow ait_rows[] = {
 /// left out.
 void save_list(DescriptorGroups const& groups, ElementRow const* element_rows, void* document, void* owner) {
   auto* const dom = static_cast<IXMLDOMDocument*>(document);
-  const CComPtr<IXMLDOMElement> list = xml::create(dom, u"descriptors");
+  CComPtr<IXMLDOMElement> const list = xml::create(dom, u"descriptors");
   if (!list) return;
   DescriptorStorage::each(groups, [&](int row, DescriptorBase const& descriptor) {
-    const CComPtr<IXMLDOMElement> element = xml::create(dom, element_rows[row].name.data());
+    CComPtr<IXMLDOMElement> const element = xml::create(dom, element_rows[row].name.data());
     if (!element) return;
     descriptor.SaveSection(document, element.get());
     list->appendChild(element.get(), nullptr);
@@ -63,7 +63,7 @@ void save_list(DescriptorGroups const& groups, ElementRow const* element_rows, v
 
 template <std::size_t count>
 void load_element(DescriptorGroups& groups, ElementRow const (&element_rows)[count], IXMLDOMNode* element) {
-  const std::u16string name = xml::node_name(element, "failed to get node name");
+  std::u16string const name = xml::node_name(element, "failed to get node name");
   auto const* const row = std::find_if(std::begin(element_rows), std::end(element_rows),
                                        [&name](ElementRow const& known) { return known.name == name; });
   if (row == std::end(element_rows)) return;
@@ -72,9 +72,9 @@ void load_element(DescriptorGroups& groups, ElementRow const (&element_rows)[cou
 
 template <std::size_t count>
 void load_list(DescriptorGroups& groups, ElementRow const (&element_rows)[count], void* owner) {
-  const CComPtr<IXMLDOMNode> list =
+  CComPtr<IXMLDOMNode> const list =
       xml::select(static_cast<IXMLDOMNode*>(owner), u"descriptors", "failed to get descriptors node");
-  const xml::Children children(
+  xml::Children const children(
       list.get(), {"failed to get descriptors node list", "failed to get descriptors node list length",
                    "failed to get item"});
   for (long i = 0; i < children.count(); ++i) load_element(groups, element_rows, children.at(i).get());

@@ -13,7 +13,7 @@ namespace {
 template <class Number>
 std::u16string decimal(Number number) {
   char digits[32];  // the longest is a double such as -2.2250738585072014e-308
-  const auto result = std::to_chars(std::begin(digits), std::end(digits), number);
+  auto const result = std::to_chars(std::begin(digits), std::end(digits), number);
   return widen(std::string_view(digits, static_cast<std::size_t>(result.ptr - digits)));
 }
 }  // namespace

@@ -45,7 +45,7 @@ std::u16string node_name(IXMLDOMNode* node, char const* failure) {
 
 std::string narrow_name(std::u16string_view name) {
   std::string narrow;
-  for (const char16_t letter : name) narrow += static_cast<char>(letter);
+  for (char16_t const letter : name) narrow += static_cast<char>(letter);
   return narrow;
 }
 

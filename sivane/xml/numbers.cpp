@@ -25,7 +25,7 @@ template <class Number>
 bool holds(std::string_view& text, Number& value) {
   text = without_lead(text);
   char const* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, value);
+  auto const result = std::from_chars(text.data(), end, value);
   text.remove_suffix(static_cast<std::size_t>(end - result.ptr));
   return result.ec != std::errc::result_out_of_range;
 }
@@ -33,10 +33,10 @@ bool holds(std::string_view& text, Number& value) {
 /// Whether a number that no double holds is too large, rather than too small: by the power of ten of its
 /// first digit that counts.
 bool is_too_large(std::string_view number) {
-  const std::size_t end = std::min(number.find_first_of("eE"), number.size());
-  const std::string_view digits = number.substr(0, end);
-  const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
-  const auto first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
+  std::size_t const end = std::min(number.find_first_of("eE"), number.size());
+  std::string_view const digits = number.substr(0, end);
+  auto const point = static_cast<std::int64_t>(std::min(digits.find('.'), digits.size()));
+  auto const first = static_cast<std::int64_t>(digits.find_first_of("123456789"));
   return end < number.size() ? read_integer(number.substr(end + 1)) > first - point : point > first;
 }
 
@@ -52,7 +52,7 @@ std::int64_t read_integer(std::string_view text) {
 double read_double(std::string_view text) {
   double value = 0;
   if (holds(text, value)) return value;
-  const double nearest = is_too_large(text) ? std::numeric_limits<double>::infinity() : 0;
+  double const nearest = is_too_large(text) ? std::numeric_limits<double>::infinity() : 0;
   return std::copysign(nearest, text.starts_with('-') ? -1.0 : 1.0);
 }
 

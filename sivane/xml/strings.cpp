@@ -32,7 +32,7 @@ bool is_low_surrogate(char16_t c) { return c >= 0xDC00 && c <= 0xDFFF; }
 std::u16string widen(std::string_view bytes) {
   std::u16string text;
   text.reserve(bytes.size());
-  for (const char c : bytes) text += static_cast<char16_t>(static_cast<unsigned char>(c));
+  for (char const c : bytes) text += static_cast<char16_t>(static_cast<unsigned char>(c));
   return text;
 }
 

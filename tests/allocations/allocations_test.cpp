@@ -23,10 +23,10 @@ TEST(Allocations, AnEmptyDescriptorSetTakesNone) {
 }
 
 TEST(Allocations, OfADescriptorSetAreForFilingAndCopyingNotForMoving) {
-  const unsigned char descriptor[] = {0x52, 0x01, 0x11};
+  unsigned char const descriptor[] = {0x52, 0x01, 0x11};
   DescriptorSet set;
   EXPECT_GT(allocations_of([&] { set.ParseDescriptor(descriptor); }), 0u);
-  EXPECT_GT(allocations_of([&] { const DescriptorSet copy(set); }), 0u);
+  EXPECT_GT(allocations_of([&] { DescriptorSet const copy(set); }), 0u);
   EXPECT_EQ(allocations_of([&] {
               DescriptorSet moved(std::move(set));
               set = std::move(moved);
@@ -53,7 +53,7 @@ TEST(Allocations, ThePacketPathTakesNone) {
   Counter host;
   host.add_psi_handler(0x0000, 0x00);
   host.add_psi_handler(0x0000, nullptr, nullptr, 0, 1);
-  const int size = static_cast<int>(writer.stream().size());
+  int const size = static_cast<int>(writer.stream().size());
   EXPECT_EQ(allocations_of([&] { host.push_data(writer.stream().data(), size); }), 0u);
   EXPECT_GT(host.sections, 2);
 }

@@ -11,7 +11,7 @@ std::size_t allocations();
 
 template <class Action>
 std::size_t allocations_of(Action action) {
-  const std::size_t before = allocations();
+  std::size_t const before = allocations();
   action();
   return allocations() - before;
 }

@@ -10,7 +10,7 @@ namespace sivane::testing {
 namespace {
 
 constexpr int pid = 0x100;
-const Bytes whole = patterned_section(0x42, 20);
+Bytes const whole = patterned_section(0x42, 20);
 
 enum State { idle, assembling, invalidated };
 constexpr bool start = true, continuation = false;
@@ -23,7 +23,7 @@ struct Row {
   int section_size;
 };
 
-const std::vector<Row> rows = {
+std::vector<Row> const rows = {
     {idle, start, part(whole, 0, 10), false, true, 10},
     {idle, start, part(whole, 0, 1), false, true, 1},
     {idle, start, {}, false, true, 0},
@@ -44,10 +44,10 @@ const std::vector<Row> rows = {
 
 template <class Handler>
 void check_row(Row const& row, Handler& handler) {
-  const Demux::TSHeader header(make_packet({.pid = pid}).data());
+  Demux::TSHeader const header(make_packet({.pid = pid}).data());
   if (row.state != idle) handler.parse(header, true, whole.data(), 5);
   if (row.state == invalidated) handler.section_size = 0;
-  const HeapBlock data(row.bytes);
+  HeapBlock const data(row.bytes);
   handler.parse(header, row.kind, data.data(), data.size());
   EXPECT_EQ(handler.in_section, row.in_section);
   EXPECT_EQ(handler.section_size, row.section_size);
@@ -70,7 +70,7 @@ TEST(Assembly, InvalidateDropsTheTableHandlersBytesOnly) {
   PushHost host;
   host.add_psi_handler(pid, 0x42);
   host.add_filter(pid, 7);
-  const Bytes section = patterned_section(0x42, 300);
+  Bytes const section = patterned_section(0x42, 300);
   host.push(start_packet(pid, part(section, 0, 183)));
   host.of_pid(pid).invalidate();
   EXPECT_TRUE(host.of_table(pid, 0x42).in_section);
@@ -81,7 +81,7 @@ TEST(Assembly, InvalidateDropsTheTableHandlersBytesOnly) {
   EXPECT_EQ(host.filtered.size(), 1u);
 }
 
-const Bytes s20 = patterned_section(0x42, 20), s188 = patterned_section(0x42, 188),
+Bytes const s20 = patterned_section(0x42, 20), s188 = patterned_section(0x42, 188),
             s300 = patterned_section(0x42, 300), s366 = patterned_section(0x42, 366),
             s500 = patterned_section(0x42, 500), other30 = patterned_section(0x46, 30),
             other300 = patterned_section(0x46, 300), unhandled300 = patterned_section(0x4A, 300);
@@ -100,7 +100,7 @@ struct Case {
   Sections expected;
 };
 
-const std::vector<Case> cases = {
+std::vector<Case> const cases = {
     {"only the first start of a packet",
      start_packet(pid, s20 + other30) + start_packet(pid, other30),
      {s20, other30}},
@@ -141,21 +141,21 @@ const std::vector<Case> cases = {
 class SectionStream : public ::testing::Test {
  protected:
   SectionStream() {
-    for (const int id : {0x00, 0x42, 0x46}) host.add_psi_handler(pid, id);
+    for (int const id : {0x00, 0x42, 0x46}) host.add_psi_handler(pid, id);
     host.add_psi_handler(pid, &value, &mask, 1, 7);
   }
-  const unsigned char value = 0x42, mask = 0xFF;
+  unsigned char const value = 0x42, mask = 0xFF;
   PushHost host;
 };
 
 TEST_F(SectionStream, GivesTheExpectedSections) {
   for (Case const& c : cases) {
-    const auto size = static_cast<int>(c.stream.size());
+    auto const size = static_cast<int>(c.stream.size());
     Filtered filtered;
     for (Bytes const& section : c.expected) {
       if (section[0] == value) filtered.emplace_back(7, section);
     }
-    for (const int piece : {size, 188}) {
+    for (int const piece : {size, 188}) {
       host.forget();
       for (int at = 0; at < size; at += piece) host.push(part(c.stream, at, at + piece));
       EXPECT_EQ(host.sections, c.expected) << c.name;
@@ -167,7 +167,7 @@ TEST_F(SectionStream, GivesTheExpectedSections) {
 TEST_F(SectionStream, SizesAroundAPacketsEnd) {
   for (int size = 7; size <= 187; ++size) {
     host.forget();
-    const Bytes section = patterned_section(0x42, size);
+    Bytes const section = patterned_section(0x42, size);
     host.push(start_packet(pid, part(section, 0, std::min(size, 183))));
     EXPECT_EQ(host.sections.size(), size <= 183 ? 1u : 0u) << size;
     if (size > 183) host.push(tail(section));
@@ -176,7 +176,7 @@ TEST_F(SectionStream, SizesAroundAPacketsEnd) {
 }
 
 TEST_F(SectionStream, LargestSectionWaitsForItsLastByte) {
-  const Bytes largest = patterned_section(0x42, 4098);
+  Bytes const largest = patterned_section(0x42, 4098);
   host.push(exact_packet(pid, true, Bytes{0} + part(largest, 0, 49)));
   for (int done = 49; done < 4097; done += 184) host.push(next(part(largest, done, done + 184)));
   EXPECT_EQ(host.of_table(pid, 0x42).section_size, 4097);

@@ -13,10 +13,10 @@ namespace sivane::testing {
 namespace {
 
 constexpr int common_pid = 0x100;
-const Bytes plain = make_packet({.pid = common_pid});
-const Bytes with_field = make_packet(
+Bytes const plain = make_packet({.pid = common_pid});
+Bytes const with_field = make_packet(
     {.pid = common_pid, .start = true, .adaptation = 7, .payload = Bytes{0} + patterned_section(0x42, 20)});
-const Bytes out_of_sync = Bytes{0x48} + part(plain, 1, 188);
+Bytes const out_of_sync = Bytes{0x48} + part(plain, 1, 188);
 
 TEST(Push, ResultsByBuffer) {
   struct Case {
@@ -48,7 +48,7 @@ struct IstreamHost {
 };
 
 TEST(Istream, ReadsWholePacketsToTheEnd) {
-  for (const std::size_t rest : {0u, 1u, 187u}) {
+  for (std::size_t const rest : {0u, 1u, 187u}) {
     IstreamHost source(plain + with_field + Bytes(rest, 0x47));
     source.host.add_psi_handler(common_pid, 0x42);
     EXPECT_EQ(source.host.start(), 1);
@@ -113,7 +113,7 @@ TEST(Pull, EndsAtAFalseOrAPartialRead) {
 class PollingHost : public RecordingHost<Demux2> {
  public:
   PollingHost(std::initializer_list<int> pids, int passes) : passes_left(passes) {
-    for (const int pid : pids) add_psi_handler(pid, 0x42);
+    for (int const pid : pids) add_psi_handler(pid, 0x42);
   }
 
   std::map<int, std::deque<Bytes>> packets;  // one that is shorter than 188 bytes is a short read
@@ -139,7 +139,7 @@ class PollingHost : public RecordingHost<Demux2> {
   }
 };
 
-const Bytes section = patterned_section(0x42, 200);
+Bytes const section = patterned_section(0x42, 200);
 Bytes head(int pid) { return start_packet(pid, part(section, 0, 183)); }
 Bytes rest(int pid) { return exact_packet(pid, false, part(section, 183, 200)); }
 
@@ -196,7 +196,7 @@ TEST(Polling, StopSetsTheResultAndEndsNothing) {
 }
 
 TEST(Polling, APidThatAHookAddsIsReadFromTheNextStart) {
-  for (const int added : {5, 15, 25}) {
+  for (int const added : {5, 15, 25}) {
     PollingHost host({10, 20}, 2);
     host.packets[10] = {head(10)};
     host.on_call = [&](std::string const&) { host.add_psi_handler(added, 0x42); };

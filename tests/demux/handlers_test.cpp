@@ -13,8 +13,8 @@ namespace sivane::testing {
 namespace {
 
 constexpr int pid = 0x100;
-const Bytes section = hex("42 F0 05 12 34 C1 00 01");
-const Bytes packet = start_packet(pid, section);
+Bytes const section = hex("42 F0 05 12 34 C1 00 01");
+Bytes const packet = start_packet(pid, section);
 
 std::size_t delivered(PushHost& host) {
   host.forget();
@@ -36,7 +36,7 @@ TEST(Registration, AskingTwiceIsAskingOnce) {
 
 TEST(Registration, RemovingTheLastTableTakesTheFilters) {
   PushHost host;
-  for (const int id : {0x42, 0x46}) host.add_psi_handler(pid, id);
+  for (int const id : {0x42, 0x46}) host.add_psi_handler(pid, id);
   host.add_filter(pid, 1);
   host.remove_psi_handler(pid, 0x46);
   host.remove_psi_handler(pid, 0x99);      // no such table, and one is left
@@ -53,7 +53,7 @@ TEST(Registration, RemovingTheLastTableTakesTheFilters) {
 
 TEST(Registration, RemovingTheCurrentHandlerAloneClearsIt) {
   PushHost host;
-  for (const int id : {0x42, 0x46, 0x47}) host.add_psi_handler(pid, id);
+  for (int const id : {0x42, 0x46, 0x47}) host.add_psi_handler(pid, id);
   host.push(packet);
   host.remove_psi_handler(pid, 0x46);
   EXPECT_EQ(host.of_pid(pid).current, &host.of_table(pid, 0x42));
@@ -79,10 +79,10 @@ TEST(Registration, ResetDropsHandlersAndLeavesTheRest) {
 
 TEST(Registration, RangesAreNotTested) {
   PushHost host;
-  for (const int number : {-1, 0, 0x1FFF, 0x2000, 0x12345678}) host.add_psi_handler(number, number);
+  for (int const number : {-1, 0, 0x1FFF, 0x2000, 0x12345678}) host.add_psi_handler(number, number);
   EXPECT_EQ(host.pid_handlers.size(), 5u);
   EXPECT_EQ(delivered(host), 0u);
-  for (const int number : {-1, 0, 0x1FFF, 0x2000, 0x12345678}) host.remove_psi_handler(number, number);
+  for (int const number : {-1, 0, 0x1FFF, 0x2000, 0x12345678}) host.remove_psi_handler(number, number);
   EXPECT_TRUE(host.pid_handlers.empty());
 }
 
@@ -117,7 +117,7 @@ TEST(Filter, ComparesMaskedSectionBytesWithTheValue) {
         {"42 F0 05 12 34 C1 00 02", "FF FF FF FF FF FF FF FF", false},
         {"42 F0 05 12 34 C1 00 01 FF", "FF FF FF FF FF FF FF FF FF", true},  // stuffing behind
         {"42 F0 05 12 34 C1 00 01 00", "FF FF FF FF FF FF FF FF FF", false}}) {
-    const HeapBlock value(hex(c.value)), mask(hex(c.mask));
+    HeapBlock const value(hex(c.value)), mask(hex(c.mask));
     PushHost host;
     host.add_psi_handler(pid, value.data(), mask.data(), value.size(), 0xFFFFFFFF);
     host.push(packet);
@@ -128,8 +128,8 @@ TEST(Filter, ComparesMaskedSectionBytesWithTheValue) {
 }
 
 TEST(Filter, SizesOutsideTheBuffer) {
-  const Bytes zeros(8193, 0);
-  for (const int size : {-1, 8192, 8193}) {
+  Bytes const zeros(8193, 0);
+  for (int const size : {-1, 8192, 8193}) {
     PushHost host;
     host.add_psi_handler(pid, zeros.data(), zeros.data(), size, 1);
     host.push(packet);
@@ -150,8 +150,8 @@ TEST(Filter, MaskAndValueStayTheHosts) {
 TEST(Filter, SeveralOnAPidHaveEachTheirIdAndCopyBehindTheTable) {
   PushHost host;  // its filter hook writes into the section that it gets
   host.add_psi_handler(pid, 0x42);
-  for (const unsigned long id : {5ul, 6ul, 6ul}) host.add_filter(pid, id);
-  const Bytes longer = patterned_section(0x42, 300);
+  for (unsigned long const id : {5ul, 6ul, 6ul}) host.add_filter(pid, id);
+  Bytes const longer = patterned_section(0x42, 300);
   host.push(start_packet(pid, part(longer, 0, 183)) + exact_packet(pid, false, part(longer, 183, 300)));
   EXPECT_EQ(host.calls, "ts 256 @4;ts 256 @192;field @259;section 256 66 108;filter;filter;filter;");
   EXPECT_EQ(host.sections, Sections{longer});
@@ -164,7 +164,7 @@ TEST(Filter, SeesTablesWithoutAHandlerTheirTailsAndStuffing) {
   host.add_filter(pid, 1);
   host.push(start_packet(pid, {}));
   EXPECT_EQ((*host.of_pid(pid).filter_handlers.begin())->section_size, 183);
-  const Bytes a = patterned_section(0x4A, 200), b = patterned_section(0x4B, 30);
+  Bytes const a = patterned_section(0x4A, 200), b = patterned_section(0x4B, 30);
   host.push(start_packet(pid, part(a, 0, 183)));
   host.push(exact_packet(pid, true, Bytes{17} + part(a, 183, 200) + b));
   EXPECT_EQ(host.filtered, (Filtered{{1, a}, {1, b}}));

@@ -10,15 +10,15 @@ namespace sivane::testing {
 namespace {
 
 constexpr int pid = 0x100;
-const Bytes a = patterned_section(0x42, 200), b = patterned_section(0x42, 30);
-const Bytes first = start_packet(pid, part(a, 0, 183));
-const Bytes last = make_packet({.pid = pid, .payload = part(a, 183, 200)});
-const Bytes filler = make_packet({.pid = pid});
-const Bytes short_one = start_packet(pid, b);
+Bytes const a = patterned_section(0x42, 200), b = patterned_section(0x42, 30);
+Bytes const first = start_packet(pid, part(a, 0, 183));
+Bytes const last = make_packet({.pid = pid, .payload = part(a, 183, 200)});
+Bytes const filler = make_packet({.pid = pid});
+Bytes const short_one = start_packet(pid, b);
 /// The end of `a`, and `b` behind it.
-const Bytes tail = make_packet({.pid = pid, .start = true, .payload = Bytes{17} + part(a, 183, 200) + b});
+Bytes const tail = make_packet({.pid = pid, .start = true, .payload = Bytes{17} + part(a, 183, 200) + b});
 /// A section delivered at its start, by a continuation, and by a tail, and packets of the same PID behind.
-const Bytes streams[] = {short_one + filler + short_one, first + last + filler, first + tail};
+Bytes const streams[] = {short_one + filler + short_one, first + last + filler, first + tail};
 
 struct HostFailure {};
 
@@ -87,7 +87,7 @@ TEST_F(Hooks, RegisteringTakesEffectFromTheNextPacket) {
     host.add_psi_handler(pid + 1, 0x02);
     host.on_call = nullptr;
   });
-  const Bytes pmt = patterned_section(0x02, 30);
+  Bytes const pmt = patterned_section(0x02, 30);
   host.push(short_one + start_packet(pid + 1, pmt));
   EXPECT_EQ(host.sections, (Sections{b, pmt}));
   host.forget();
@@ -120,7 +120,7 @@ TEST_F(Hooks, ARemovedAndRegisteredHandlerStartsAfresh) {
 
 TEST_F(Hooks, RemovingThePidOrResettingEndsAllItsCalls) {
   for (std::string const name : {"ts", "section", "filter"}) {
-    for (const bool is_reset : {false, true}) {
+    for (bool const is_reset : {false, true}) {
       for (Bytes const& stream : streams) {
         host.reset();
         host.forget();

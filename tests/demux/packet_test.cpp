@@ -34,12 +34,12 @@ TEST(PacketHeader, NeedsTheSyncByte) {
 
 TEST(PacketHeader, AdaptationFieldLengthCountsItself) {
   int length = -1;
-  const unsigned char field = 255;
+  unsigned char const field = 255;
   Demux::AdaptionFieldHeader(&field, length);
   EXPECT_EQ(length, 256);
 }
 
-const Bytes section = hex("42 00 00");
+Bytes const section = hex("42 00 00");
 
 /// Byte 4 is `count`, and behind the bytes that it counts stands `data`, as far as the packet goes.
 Bytes packet_with(int control, bool start, int count, Bytes const& data) {
@@ -62,7 +62,7 @@ class PayloadBounds : public ::testing::Test {
 };
 
 TEST_F(PayloadBounds, EveryPointerField) {
-  for (const int control : {0, 1}) {
+  for (int const control : {0, 1}) {
     for (int pointer = 0; pointer < 256; ++pointer) {
       host.forget();
       EXPECT_EQ(host.push(packet_with(control, true, pointer, section)), 0);
@@ -75,12 +75,12 @@ TEST_F(PayloadBounds, EveryPointerField) {
 }
 
 TEST_F(PayloadBounds, EveryAdaptationFieldLength) {
-  for (const int control : {2, 3}) {
+  for (int const control : {2, 3}) {
     for (int length = 0; length < 256; ++length) {
       host.forget();
       EXPECT_EQ(host.push(packet_with(control, true, length, Bytes{0} + section)), 0);
       EXPECT_EQ(host.sections.size(), length <= 179 ? 1u : 0u) << length;
-      const std::string hooks = "ts 256 @4;field @" + std::to_string(std::min(5 + length, 188)) + ';';
+      std::string const hooks = "ts 256 @4;field @" + std::to_string(std::min(5 + length, 188)) + ';';
       EXPECT_EQ(host.calls.substr(0, hooks.size()), hooks);
       host.push(packet_with(control, false, length, Bytes(184, 0)));
     }
@@ -88,9 +88,9 @@ TEST_F(PayloadBounds, EveryAdaptationFieldLength) {
 }
 
 TEST_F(PayloadBounds, NoPayloadLeavesASectionInProgressAlone) {
-  const Bytes a = patterned_section(0x42, 300);
+  Bytes const a = patterned_section(0x42, 300);
   host.push(start_packet(pid, part(a, 0, 183)));
-  for (const int length : {183, 184, 255}) {
+  for (int const length : {183, 184, 255}) {
     host.push(packet_with(3, true, length, {}) + packet_with(2, false, length, {}));
   }
   host.push(exact_packet(pid, false, part(a, 183, 300)));

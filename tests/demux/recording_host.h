@@ -56,7 +56,7 @@ class RecordingHost : public Driver {
 
  private:
   void note(std::string const& call, unsigned char const* address = nullptr) {
-    const bool has_offset = address != nullptr && base != nullptr;
+    bool const has_offset = address != nullptr && base != nullptr;
     calls += call + (has_offset ? " @" + std::to_string(address - base) : "") + ';';
     if (on_call) on_call(call);
   }
@@ -67,7 +67,7 @@ class PushHost : public RecordingHost<DemuxPush> {
  public:
   /// Pushes a copy that lies in a block of exactly its size.
   int push(Bytes const& stream) {
-    const HeapBlock block(stream);
+    HeapBlock const block(stream);
     base = block.data();
     return push_data(block.data(), block.size());
   }
@@ -78,7 +78,7 @@ class PushHost : public RecordingHost<DemuxPush> {
 
 /// A packet whose payload is exactly these bytes; an adaptation field takes what room is left.
 inline Bytes exact_packet(int pid, bool start, Bytes const& payload) {
-  const int adaptation = payload.size() == 184 ? -1 : 183 - static_cast<int>(payload.size());
+  int const adaptation = payload.size() == 184 ? -1 : 183 - static_cast<int>(payload.size());
   return make_packet({.pid = pid, .start = start, .adaptation = adaptation, .payload = payload});
 }
 

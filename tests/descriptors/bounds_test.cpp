@@ -32,14 +32,14 @@ struct Tally {
 /// Parses the descriptor of which `body` alone is left in its section.
 template <class Set>
 void parse_at_end(int tag, int length, Bytes const& body, Tally& tally) {
-  const HeapBlock section(Bytes{static_cast<unsigned char>(tag), static_cast<unsigned char>(length)} + body);
+  HeapBlock const section(Bytes{static_cast<unsigned char>(tag), static_cast<unsigned char>(length)} + body);
   Set set;
   if (!thrown([&] { parse(set, section); }).empty()) {
     ++tally.thrown;
     return;
   }
   ++tally.parsed;
-  const Set copy(set);
+  Set const copy(set);
   for (RowOf<Set> const& row : row_list<Set>()) {
     if (row.count(copy) > 0) row.dump(copy);
   }
@@ -48,7 +48,7 @@ void parse_at_end(int tag, int length, Bytes const& body, Tally& tally) {
 /// How many bytes of the body may be left: all, all but one, and none to a few.
 std::set<int> sizes_left(int length) {
   std::set<int> sizes;
-  for (const int size : {length, length - 1, length / 2, 0, 3, 7}) {
+  for (int const size : {length, length - 1, length / 2, 0, 3, 7}) {
     if (size >= 0 && size <= length) sizes.insert(size);
   }
   return sizes;
@@ -60,12 +60,12 @@ using Sets = ::testing::Types<DescriptorSet, AitDescriptorSet>;
 TYPED_TEST_SUITE(Bounds, Sets);
 
 TYPED_TEST(Bounds, NothingBehindTheSectionIsRead) {
-  const std::vector<Bytes> patterns = body_patterns();
+  std::vector<Bytes> const patterns = body_patterns();
   for (RowOf<TypeParam> const& row : row_list<TypeParam>()) {
     Tally tally;
     for (Bytes const& pattern : patterns) {
       for (int length = 0; length <= 0xFF; ++length) {
-        for (const int size : sizes_left(length)) {
+        for (int const size : sizes_left(length)) {
           parse_at_end<TypeParam>(row.tag, length, {pattern.begin(), pattern.begin() + size}, tally);
         }
       }
@@ -79,7 +79,7 @@ TYPED_TEST(Bounds, TagsWithoutAClassNeedTheirWholeBody) {
   for (int tag = 0; tag <= 0xFF; ++tag) {
     if (has_class<TypeParam>(tag)) continue;
     for (int length = 0; length <= 0xFF; ++length) {
-      for (const int size : sizes_left(length)) {
+      for (int const size : sizes_left(length)) {
         Tally tally;
         parse_at_end<TypeParam>(tag, length, Bytes(static_cast<std::size_t>(size), 0xFF), tally);
         EXPECT_EQ(tally.parsed, size == length ? 1 : 0) << tag << ", " << length << ", " << size;
@@ -90,25 +90,25 @@ TYPED_TEST(Bounds, TagsWithoutAClassNeedTheirWholeBody) {
 
 // The bytes that each class reads of a body of zeros, but for those with a failure of their own.
 template <class Set>
-const std::vector<std::pair<int, int>> fixed_sizes = {
+std::vector<std::pair<int, int>> const fixed_sizes = {
     {0x02, 3}, {0x03, 1},  {0x04, 4},  {0x05, 4}, {0x06, 1}, {0x07, 4}, {0x08, 4}, {0x09, 4},
     {0x0B, 2}, {0x0C, 4},  {0x0D, 4},  {0x0E, 3}, {0x0F, 4}, {0x10, 6}, {0x11, 1}, {0x12, 2},
     {0x13, 5}, {0x43, 11}, {0x44, 11}, {0x48, 3}, {0x4A, 7}, {0x4C, 2}, {0x4D, 5}, {0x4E, 6},
     {0x4F, 4}, {0x50, 6},  {0x52, 1},  {0x57, 3}, {0x5A, 7}, {0x5F, 4}, {0x60, 6}, {0x61, 1},
     {0x64, 8}, {0x66, 2},  {0x69, 3},  {0x6A, 1}, {0x6B, 1}, {0x70, 1}};
 template <>
-const std::vector<std::pair<int, int>> fixed_sizes<AitDescriptorSet> = {
+std::vector<std::pair<int, int>> const fixed_sizes<AitDescriptorSet> = {
     {0x00, 3}, {0x02, 3}, {0x04, 2}, {0x08, 1}, {0x09, 1}, {0x0A, 1}, {0x0B, 3}};
 
 TYPED_TEST(Bounds, FieldsBehindTheDescriptorAreReadInTheSectionAndNotBehindIt) {
   for (auto const& [tag, size] : fixed_sizes<TypeParam>) {
     for (int length = 0; length <= size; ++length) {
       SCOPED_TRACE(::testing::Message() << "tag " << tag << ", length " << length);
-      const Bytes descriptor = make_descriptor(tag, Bytes(static_cast<std::size_t>(length)));
-      const HeapBlock alone(descriptor);
-      const Bytes behind(static_cast<std::size_t>(size - length));
+      Bytes const descriptor = make_descriptor(tag, Bytes(static_cast<std::size_t>(length)));
+      HeapBlock const alone(descriptor);
+      Bytes const behind(static_cast<std::size_t>(size - length));
       EXPECT_EQ(thrown([&] { parsed<TypeParam>(HeapBlock(descriptor + behind)); }), "");
-      const std::string expected = length == size ? "" : "no_errorcode too little data";
+      std::string const expected = length == size ? "" : "no_errorcode too little data";
       TypeParam set;
       EXPECT_EQ(thrown([&] { file(set, alone.data()); }), expected);
       if (length == size) continue;
@@ -120,8 +120,8 @@ TYPED_TEST(Bounds, FieldsBehindTheDescriptorAreReadInTheSectionAndNotBehindIt) {
 }
 
 TYPED_TEST(Bounds, TagAndLengthThemselvesMustStandInTheSection) {
-  for (const std::size_t size : {0u, 1u}) {
-    const HeapBlock section(Bytes(size, 0x52));
+  for (std::size_t const size : {0u, 1u}) {
+    HeapBlock const section(Bytes(size, 0x52));
     EXPECT_EQ(thrown([&] { parsed<TypeParam>(section); }), "no_errorcode too little data");
   }
 }

@@ -24,7 +24,7 @@ std::vector<Case> cases_of(std::string const& name) {
 
 template <class Set>
 std::string made_in_section(Case const& one) {
-  const HeapBlock section(assemble(one.bytes) + assemble(one.behind) + hex(following));
+  HeapBlock const section(assemble(one.bytes) + assemble(one.behind) + hex(following));
   return row_of<Set>(section.data()[0]).first(parsed<Set>(section), section.data());
 }
 
@@ -32,7 +32,7 @@ template <class Set>
 void read_and_dump(std::string const& name) {
   for (Case const& one : cases_of(name)) {
     const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    const HeapBlock alone(assemble(one.bytes));
+    HeapBlock const alone(assemble(one.bytes));
     EXPECT_EQ(made_in_section<Set>(one), one.title + '\n' + one.text);
     EXPECT_EQ(row_of<Set>(alone.data()[0]).bare(alone.data()), one.title + '\n' + one.text);
   }
@@ -65,14 +65,14 @@ template <class Set>
 void run_over(std::string const& name) {
   for (Case const& one : cases_of(name)) {
     const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    const HeapBlock alone(assemble(one.bytes));
-    const std::string expected = one.title + '\n' + one.text;
+    HeapBlock const alone(assemble(one.bytes));
+    std::string const expected = one.title + '\n' + one.text;
     EXPECT_EQ(made_in_section<Set>(one).substr(0, expected.size()), expected);
     EXPECT_EQ(thrown([&] { row_of<Set>(alone.data()[0]).bare(alone.data()); }),
               "no_errorcode too little data");
-    const Bytes behind = assemble(one.behind);
+    Bytes const behind = assemble(one.behind);
     for (auto end = behind.begin(); end != behind.end(); ++end) {
-      const HeapBlock section(assemble(one.bytes) + Bytes(behind.begin(), end));
+      HeapBlock const section(assemble(one.bytes) + Bytes(behind.begin(), end));
       EXPECT_EQ(thrown([&] { parsed<Set>(section); }), "no_errorcode too little data");
     }
   }
@@ -89,8 +89,8 @@ template <class Set>
 void fail(std::string const& name) {
   for (Case const& one : cases_of(name)) {
     const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    const HeapBlock alone(assemble(one.bytes));
-    const HeapBlock within(assemble(one.bytes) + Bytes(40));
+    HeapBlock const alone(assemble(one.bytes));
+    HeapBlock const within(assemble(one.bytes) + Bytes(40));
     Set set;
     EXPECT_EQ(thrown([&] { file(set, alone.data()); }), one.title);
     EXPECT_EQ(thrown([&] { parse(set, alone); }), one.title);

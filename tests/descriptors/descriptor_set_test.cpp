@@ -41,7 +41,7 @@ void parse(Set& set, char const* descriptor) {
 /// The longest one of at most 40 body bytes that the class of `tag` accepts, bytes that count up if possible.
 template <class Set>
 Bytes valid_descriptor(int tag) {
-  for (const bool counting : {true, false}) {
+  for (bool const counting : {true, false}) {
     for (std::size_t length = 40; length > 0; --length) {
       Bytes body(length);
       if (counting) std::iota(body.begin(), body.end(), static_cast<unsigned char>(1));
@@ -75,7 +75,7 @@ TYPED_TEST(EitherSet, EachTagFillsOneVectorAndLeavesTheOthersEmpty) {
   EXPECT_EQ(row_list<TypeParam>().size(), (std::is_same_v<TypeParam, DescriptorSet> ? 71u : 16u));
   TypeParam all;
   for (RowOf<TypeParam> const& filled : row_list<TypeParam>()) {
-    const Bytes descriptor = valid_descriptor<TypeParam>(filled.tag);
+    Bytes const descriptor = valid_descriptor<TypeParam>(filled.tag);
     TypeParam set;
     parse(set, descriptor);
     parse(all, descriptor);
@@ -92,8 +92,8 @@ TYPED_TEST(EitherSet, CopiesAreIndependentAndMovesTakeEverything) {
     parse(set, valid_descriptor<TypeParam>(row.tag));
     parse(set, valid_descriptor<TypeParam>(row.tag));
   }
-  const std::string dump = dump_all(set);
-  const std::size_t count = count_all(set);
+  std::string const dump = dump_all(set);
+  std::size_t const count = count_all(set);
   ASSERT_EQ(count, 2 * row_list<TypeParam>().size());
 
   TypeParam copy(set);
@@ -123,7 +123,7 @@ TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAlone) {
   EXPECT_EQ(count_all(none), 0u);
   for (RowOf<TypeParam> const& row : row_list<TypeParam>()) parse(set, valid_descriptor<TypeParam>(row.tag));
   parse(set, "7F 01 11");
-  const TypeParam copy(set);
+  TypeParam const copy(set);
   set.clear_general_descriptors();
   EXPECT_EQ(set.get_general_descriptors().size(), 0u);
   EXPECT_EQ(count_all(set), row_list<TypeParam>().size() - 1);
@@ -135,7 +135,7 @@ TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAlone) {
 TEST(DescriptorSet, ClearedItIsAsNew) {
   DescriptorSet set;
   for (Row const& row : row_list()) parse(set, valid_descriptor<DescriptorSet>(row.tag));
-  const DescriptorSet copy(set);
+  DescriptorSet const copy(set);
   set.clear_descriptors();
   EXPECT_EQ(count_all(set), 0u);
   EXPECT_EQ(count_all(copy), 71u);
@@ -162,7 +162,7 @@ TEST(AitDescriptorSet, TagsWithoutAClassAreFiledByWhetherTheyArePrivate) {
 
 TEST(DescriptorSet, GettersThatAreNotNamedLikeTheirClass) {
   DescriptorSet set;
-  for (const int tag : {0x47, 0x53, 0x5E, 0x63, 0x6D, 0x80, 0x00})
+  for (int const tag : {0x47, 0x53, 0x5E, 0x63, 0x6D, 0x80, 0x00})
     parse(set, valid_descriptor<DescriptorSet>(tag));
   EXPECT_EQ(set.get_bouquet_descriptors().size(), 1u);
   EXPECT_EQ(set.get_CA_identifiers_descriptors().size(), 1u);
@@ -185,13 +185,13 @@ TEST(DescriptorSet, TagsWithoutAClassAreFiledByWhetherTheyArePrivate) {
 }
 
 TEST(DescriptorSet, GeneralDescriptorsBuiltByHand) {
-  const Bytes bytes = hex("09 03 AA BB CC");
-  const DescriptorGeneral overlaid(reinterpret_cast<descriptor_base const*>(bytes.data()));
+  Bytes const bytes = hex("09 03 AA BB CC");
+  DescriptorGeneral const overlaid(reinterpret_cast<descriptor_base const*>(bytes.data()));
   EXPECT_EQ(members(overlaid.tag, overlaid.length, overlaid.data), "9 3 <aabbcc>");
-  const DescriptorGeneral given(0x41, bytes.data() + 2, 2);
+  DescriptorGeneral const given(0x41, bytes.data() + 2, 2);
   EXPECT_EQ(members(given.tag, given.length, given.data), "41 2 <aabb>");
-  for (const int length : {0, -1}) {
-    const DescriptorGeneral none(-5, nullptr, length);
+  for (int const length : {0, -1}) {
+    DescriptorGeneral const none(-5, nullptr, length);
     EXPECT_EQ(none.tag, -5);
     EXPECT_EQ(none.length, length);
     EXPECT_TRUE(none.data.empty());
@@ -199,12 +199,12 @@ TEST(DescriptorSet, GeneralDescriptorsBuiltByHand) {
 }
 
 TEST(DescriptorSet, OverlaysStoreTheirOwnTag) {
-  const Bytes bytes = hex("77 04 65 6E 67 41");
+  Bytes const bytes = hex("77 04 65 6E 67 41");
   EXPECT_EQ(DescriptorVideoStream(bytes.data()).tag, 0x77);
   EXPECT_EQ(DescriptorISO639Language(bytes.data()).tag, 0x77);
-  const DescriptorVideoStream video(reinterpret_cast<VIDEO_STREAM_desc const*>(bytes.data()));
+  DescriptorVideoStream const video(reinterpret_cast<VIDEO_STREAM_desc const*>(bytes.data()));
   EXPECT_EQ(members(video.tag, video.length, video.frame_rate_code), "2 4 c");
-  const DescriptorISO639Language language(reinterpret_cast<ISO_639_LANGUAGE_desc const*>(bytes.data()));
+  DescriptorISO639Language const language(reinterpret_cast<ISO_639_LANGUAGE_desc const*>(bytes.data()));
   EXPECT_EQ(members(language.tag, language.length, language.language_vector.at(0).audio_type), "a 4 41");
 }
 
@@ -239,10 +239,10 @@ constexpr Failure mismatch{error::length_error, "the loop's own"};
 
 /// Files a loop that claims `size` bytes of a section that these are all of; members of what came of it.
 std::string parse_loop(char const* section, int size) {
-  const HeapBlock bytes(hex(section));
+  HeapBlock const bytes(hex(section));
   Reader reader = Reader::within(bytes.data(), bytes.size());
   DescriptorSet set;
-  const bool exact = set.parse_descriptors(reader, size, mismatch);
+  bool const exact = set.parse_descriptors(reader, size, mismatch);
   return members(exact, reader.consumed(), count_all(set));
 }
 
@@ -264,7 +264,7 @@ TEST(DescriptorSet, LoopsMayRunOverTheirSizeButNotOverTheSection) {
 }
 
 TEST(DescriptorSet, LoopsKeepWhatStandsBeforeAFailure) {
-  const Bytes bytes = hex("52 01 11 70 01 22 56 01 00 52 01 33");
+  Bytes const bytes = hex("52 01 11 70 01 22 56 01 00 52 01 33");
   Reader reader = Reader::within(bytes.data(), static_cast<int>(bytes.size()));
   DescriptorSet set;
   EXPECT_TRUE(throws([&] { set.parse_descriptors(reader, 12, mismatch); }, "descriptor length mismatch"));
@@ -287,7 +287,7 @@ TEST(DescriptorDump, StreamStateIsTheStreams) {
   os << 0x1B;
   os.width(4);
   os << 0x1B;
-  const std::string text = os.str();
+  std::string const text = os.str();
   EXPECT_EQ(text.substr(0, 3), "1B.");
   EXPECT_NE(text.find("\nmodulation 27\n"), std::string::npos);
   EXPECT_EQ(text.substr(text.find("FEC_inner")), "FEC_inner 0\n27.descriptor_tag: 6A _descriptor\n1B001B");

@@ -14,9 +14,9 @@ namespace {
 /// The bytes that the record takes of a block of just these, or what it throws.
 template <class Record>
 std::string taken(char const* text) {
-  const HeapBlock bytes(hex(text));
+  HeapBlock const bytes(hex(text));
   int consumed = -1;
-  const std::string failure = thrown([&] {
+  std::string const failure = thrown([&] {
     if constexpr (std::is_constructible_v<Record, unsigned char*, int, int&>) {
       Record(bytes.data(), bytes.size(), consumed);
     } else {
@@ -44,7 +44,7 @@ struct Taken {
   char const* expected;
 };
 
-const Taken records[] = {
+Taken const records[] = {
     {taken<ServiceName>, "65 6E 67 02 41 42 01 43", "8"},
     {taken<ServiceName>, "65 6E 67 00", "length_error multilingual_service_name_info_descriptor"},
     {taken<ServiceName>, "65 6E 67 01 41", "length_error multilingual_service_name_info_descriptor:2"},
@@ -86,70 +86,70 @@ TEST(Records, TellTheirSizeAndFailAsTheirDescriptorsDo) {
 
 // Their `size` is not looked at: the length bytes inside are what counts.
 TEST(Records, SizeThatPlaysNoPart) {
-  const HeapBlock vbi(hex("81 02 AA BB"));
+  HeapBlock const vbi(hex("81 02 AA BB"));
   int consumed = -1;
   EXPECT_EQ(members(DescriptorVBIData::VBIServiceData(vbi.data(), 0, consumed).data, consumed), "<aabb> 4");
-  const HeapBlock cell(hex("04 00 00 01 80 01"));
+  HeapBlock const cell(hex("04 00 00 01 80 01"));
   EXPECT_EQ(members(DescriptorMosiac::CellInfo(cell.data(), 1, consumed).bouquetinfo.bouquet_id, consumed),
             "8001 6");
-  const HeapBlock name(hex("65 6E 67 01 41"));
+  HeapBlock const name(hex("65 6E 67 01 41"));
   EXPECT_EQ(members(ApplicationName(name.data(), 0, consumed).application_name, consumed), "'A' 5");
-  const HeapBlock prefetch(hex("01 41 85"));
+  HeapBlock const prefetch(hex("01 41 85"));
   EXPECT_EQ(members(PreFetch(prefetch.data(), 0, consumed).prefetch_priority, consumed), "85 3");
 }
 
 TEST(Records, OfOneSizeNeedNoOther) {
-  const HeapBlock profile(hex("8001 85 06 FF"));
-  const DescriptorAitApplication::ApplicationProfile p(profile.data());
+  HeapBlock const profile(hex("8001 85 06 FF"));
+  DescriptorAitApplication::ApplicationProfile const p(profile.data());
   EXPECT_EQ(members(p.application_profile, p.version_major, p.version_minor, p.version_micro),
             "8001 85 6 ff");
-  const HeapBlock authorised(hex("80000015 8001 85"));
-  const DescriptorAitExternalApplicationAuthorisation::AitExternalApplicationAuthorisationInfo a(
+  HeapBlock const authorised(hex("80000015 8001 85"));
+  DescriptorAitExternalApplicationAuthorisation::AitExternalApplicationAuthorisationInfo const a(
       authorised.data());
   EXPECT_EQ(members(a.application_identifer.organisation_id, a.application_identifer.application_id,
                     a.application_priority),
             "80000015 8001 85");
-  const HeapBlock ipv4(hex("85 C0A80101 8001 FFFFFF00"));
-  const DescriptorAitRoutingIPv4::RoutingIPv4Info v4(ipv4.data());
+  HeapBlock const ipv4(hex("85 C0A80101 8001 FFFFFF00"));
+  DescriptorAitRoutingIPv4::RoutingIPv4Info const v4(ipv4.data());
   EXPECT_EQ(members(v4.component_tag, v4.address, v4.port_number, v4.address_mask),
             "85 c0a80101 8001 ffffff00");
   Bytes counting(35);
   std::iota(counting.begin(), counting.end(), static_cast<unsigned char>(0));
-  const HeapBlock ipv6(counting);
-  const DescriptorAitRoutingIPv6::RoutingIPv6Info v6(ipv6.data());
+  HeapBlock const ipv6(counting);
+  DescriptorAitRoutingIPv6::RoutingIPv6Info const v6(ipv6.data());
   EXPECT_EQ(members(v6.component_tag, v6.port_number), "0 1112");
   EXPECT_EQ(Bytes(v6.get_address(), v6.get_address() + 16),
             Bytes(counting.begin() + 1, counting.begin() + 17));
   EXPECT_EQ(Bytes(v6.get_address_mask(), v6.get_address_mask() + 16),
             Bytes(counting.begin() + 19, counting.end()));
-  const HeapBlock dii(hex("FFFE 8001"));
-  const DescriptorAitDIILocation::DIILocationInfo d(dii.data());
+  HeapBlock const dii(hex("FFFE 8001"));
+  DescriptorAitDIILocation::DIILocationInfo const d(dii.data());
   EXPECT_EQ(members(d.DII_identification, d.association_tag), "7ffe 8001");
 }
 
 // What neither dumps nor case files show.
 TEST(Records, MembersBehindTheDumps) {
-  const DescriptorDataBroadcastId data(hex("66 04 8001 AABB").data());
+  DescriptorDataBroadcastId const data(hex("66 04 8001 AABB").data());
   EXPECT_EQ(members(data.id_selector_byte), "<aabb>");
-  const DescriptorAitTransportProtocol oc(hex("02 0B 0001 85 80 8081 8283 8485 86").data());
+  DescriptorAitTransportProtocol const oc(hex("02 0B 0001 85 80 8081 8283 8485 86").data());
   EXPECT_EQ(
       members(oc.transport_protocol_label, oc.transport_OC.service_id, oc.transport_IP.remote_connection),
       "85 8485 0");
-  const DescriptorAitTransportProtocol other(hex("02 05 0003 85 80 81").data());
+  DescriptorAitTransportProtocol const other(hex("02 05 0003 85 80 81").data());
   EXPECT_EQ(members(other.transport_OC.remote_connection, other.transport_IP.remote_connection), "0 0");
-  const DescriptorAitApplicationIcons icons(hex("0B 05 02 41 00 00 01").data());
+  DescriptorAitApplicationIcons const icons(hex("0B 05 02 41 00 00 01").data());
   EXPECT_EQ(members(icons.icon_locator, icons.icon_flags), "'A\\00' 1");
 }
 
 TEST(Records, ItemTakesWhatItNeedsOfTheSize) {
-  const HeapBlock bytes(hex("02 41 42 01 43"));
-  for (const int left : {5, 9}) {
+  HeapBlock const bytes(hex("02 41 42 01 43"));
+  for (int const left : {5, 9}) {
     int size = left;
-    const DescriptorExtendedEvent::Item item(bytes.data(), size);
+    DescriptorExtendedEvent::Item const item(bytes.data(), size);
     EXPECT_EQ(members(item.description, item.item, size), "'AB' 'C' 5");
   }
-  for (const int left : {1, 2, 3, 4}) {
-    const HeapBlock cut(Bytes(bytes.data(), bytes.data() + left));
+  for (int const left : {1, 2, 3, 4}) {
+    HeapBlock const cut(Bytes(bytes.data(), bytes.data() + left));
     int size = left;
     EXPECT_TRUE(throws([&] { DescriptorExtendedEvent::Item(cut.data(), size); }, "data length mismatch"))
         << left;
@@ -157,9 +157,9 @@ TEST(Records, ItemTakesWhatItNeedsOfTheSize) {
 }
 
 TEST(Records, LocalTimeAlwaysTakesThirteenBytes) {
-  const HeapBlock bytes(hex("47 42 52 79 01 30 C0 79 12 45 00 02 45"));
+  HeapBlock const bytes(hex("47 42 52 79 01 30 C0 79 12 45 00 02 45"));
   int consumed = -1;
-  const DescriptorLocalTimeOffset::LocalTime time(bytes.data(), consumed);
+  DescriptorLocalTimeOffset::LocalTime const time(bytes.data(), consumed);
   EXPECT_EQ(members(consumed, time.country_code, time.country_region_id, time.local_time_offset_polarity,
                     time.time_of_change.get_date_as_text(), time.next_time_offset.minute),
             "d 'GBR' 1e 1 '13 10 1993 12 45 0' 2d");

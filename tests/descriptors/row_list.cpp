@@ -31,7 +31,7 @@ std::string dump_lines(std::string const& dump, std::string const& keyword) {
   std::string text;
   std::istringstream lines(dump);
   for (std::string line; std::getline(lines, line);) {
-    const bool open = lines.eof();
+    bool const open = lines.eof();
     line = printable(line);
     if (open) line += '\\';
     if (line.ends_with(' ')) line.replace(line.size() - 1, 1, "\\20");
@@ -58,30 +58,30 @@ std::string saved_lines(Descriptor const& descriptor, char16_t const* element, s
 template <class Descriptor>
 std::string member_lines(Descriptor const& descriptor, char16_t const* element, std::string const& keyword) {
   if (element != nullptr) return saved_lines(descriptor, element, keyword);
-  const std::string dump = dumped(descriptor);
+  std::string const dump = dumped(descriptor);
   return dump_lines(dump.substr(dump.find('\n') + 1), keyword);
 }
 
 /// What `_reset` leaves, if that is not everything.
 template <class Descriptor>
 std::string left_by_reset(Descriptor& descriptor, char16_t const* element) {
-  const std::string before = member_lines(descriptor, element, "reset  ");
+  std::string const before = member_lines(descriptor, element, "reset  ");
   descriptor._reset();
-  const std::string left = member_lines(descriptor, element, "reset  ");
+  std::string const left = member_lines(descriptor, element, "reset  ");
   if (left == before) return "";
   return left.empty() ? "reset  -\n" : left;
 }
 
 template <class Descriptor>
 std::string case_text(Descriptor descriptor, char16_t const* element, unsigned char const* bytes) {
-  const auto expect_head = [&] {
+  auto const expect_head = [&] {
     EXPECT_EQ(std::tuple(descriptor.tag, descriptor.length), std::tuple(bytes[0], bytes[1]));
   };
   expect_head();
   constexpr std::string_view label = "descriptor_tag: ";
-  const std::string dump = dumped(descriptor);
+  std::string const dump = dumped(descriptor);
   EXPECT_TRUE(dump.starts_with(label)) << dump;
-  const std::size_t behind_title = dump.find('\n') + 1;
+  std::size_t const behind_title = dump.find('\n') + 1;
   std::string text = dump.substr(label.size(), behind_title - label.size());
   if (element != nullptr) text += saved_lines(descriptor, element, "xml    ");
   text += left_by_reset(descriptor, element);
@@ -113,7 +113,7 @@ RowOf<Set> make_row(int tag, char const* name, char16_t const* element) {
 template <>
 std::vector<RowOf<DescriptorSet>> const& row_list() {
   using Set = DescriptorSet;
-  static const std::vector<RowOf<Set>> rows = {
+  static std::vector<RowOf<Set>> const rows = {
 #define SIVANE_ROW(tag, Class, getter, element, tag_text) \
   make_row<Set, Class, &Set::getter>(tag, #getter, u"" element),
 #define SIVANE_GENERAL_ROW(kind, getter, element) \
@@ -126,7 +126,7 @@ std::vector<RowOf<DescriptorSet>> const& row_list() {
 template <>
 std::vector<RowOf<AitDescriptorSet>> const& row_list() {
   using Set = AitDescriptorSet;
-  static const std::vector<RowOf<Set>> rows = {
+  static std::vector<RowOf<Set>> const rows = {
 #define SIVANE_ROW(tag, Class, getter, element, tag_text) \
   make_row<Set, Class, &Set::getter>(tag, #getter, nullptr),
 #define SIVANE_GENERAL_ROW(kind, getter, element) \
@@ -138,7 +138,7 @@ std::vector<RowOf<AitDescriptorSet>> const& row_list() {
 
 template <class Set>
 RowOf<Set> const& row_of(int tag) {
-  const int filed_as = has_class<Set>(tag) ? tag : tag < 0x80 ? other : user_private;
+  int const filed_as = has_class<Set>(tag) ? tag : tag < 0x80 ? other : user_private;
   return *std::find_if(row_list<Set>().begin(), row_list<Set>().end(),
                        [&](RowOf<Set> const& row) { return row.tag == filed_as; });
 }

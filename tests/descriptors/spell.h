@@ -20,7 +20,7 @@ inline std::string two_digits(unsigned char byte) {
 /// Text with control and high bytes as a backslash and two digits.
 inline std::string printable(std::string const& raw) {
   std::string text;
-  for (const char c : raw) {
+  for (char const c : raw) {
     text += c >= ' ' && c <= '~' && c != '\\' ? std::string(1, c)
                                               : '\\' + two_digits(static_cast<unsigned char>(c));
   }
@@ -30,7 +30,7 @@ inline std::string printable(std::string const& raw) {
 template <std::integral Number>
 std::string spelled(Number value) {
   char digits[20];
-  const auto bits =
+  auto const bits =
       static_cast<std::make_unsigned_t<std::conditional_t<sizeof(Number) == 1, int, Number>>>(value);
   return {digits, std::to_chars(std::begin(digits), std::end(digits), bits, 16).ptr};
 }
@@ -46,7 +46,7 @@ inline std::string spelled(std::string const& value) {
 
 inline std::string spelled(std::vector<unsigned char> const& bytes) {
   std::string text = "<";
-  for (const unsigned char byte : bytes) text += two_digits(byte);
+  for (unsigned char const byte : bytes) text += two_digits(byte);
   return text + ">";
 }
 

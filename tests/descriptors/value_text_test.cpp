@@ -42,7 +42,7 @@ struct Source {
   int last = 300;
 };
 
-const Source sources[] = {
+Source const sources[] = {
     {"hierarchy_type",
      by(&DescriptorHierarchy::hierarchy_type, &DescriptorHierarchy::get_hierchy_type_string)},
     {"alignment_type", by(&DescriptorDataStreamAlignment::alignment_type,
@@ -72,7 +72,7 @@ struct Texts {
 };
 
 void read_line(std::string const& line, Texts& texts) {
-  const std::size_t blank = line.find(' ');
+  std::size_t const blank = line.find(' ');
   std::string text = line.substr(blank + 1);
   if (line.starts_with("else ")) {
     texts.other = text;
@@ -81,7 +81,7 @@ void read_line(std::string const& line, Texts& texts) {
   std::size_t used = 0;
   int value = std::stoi(line, &used, 16);
   if (line[used] == '-') {
-    const int last = std::stoi(line.substr(used + 1), nullptr, 16);
+    int const last = std::stoi(line.substr(used + 1), nullptr, 16);
     while (value <= last) texts.by_value[value++] = text;
     return;
   }
@@ -100,14 +100,14 @@ std::map<std::string, Texts> read_texts() {
 }
 
 TEST(ValueText, OfEveryValue) {
-  const std::map<std::string, Texts> all = read_texts();
+  std::map<std::string, Texts> const all = read_texts();
   std::map<std::string, Texts> left = all;
   for (Source const& source : sources) {
     SCOPED_TRACE(source.title);
     Texts const& texts = all.at(source.title);
     left.erase(source.title);
     for (int value = -2; value <= source.last; ++value) {
-      const auto found = texts.by_value.find(value);
+      auto const found = texts.by_value.find(value);
       EXPECT_EQ(source.text_of(value), found != texts.by_value.end() ? found->second : texts.other) << value;
     }
   }

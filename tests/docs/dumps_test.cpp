@@ -31,12 +31,12 @@ TEST(DumpsPage, ShowsWhatTheLibraryWrites) {
   pat.Parse(make_pat({{0, 0x10}, {1, 0x100}}, {.context_id = 0x22, .version_number = 3}).data());
   EXPECT_NE(page().find(block_of(pat)), std::string::npos) << block_of(pat);
 
-  const sivane::DescriptorCa descriptor(hex("09 06 0500 E1F5 54 01").data());
+  sivane::DescriptorCa const descriptor(hex("09 06 0500 E1F5 54 01").data());
   EXPECT_NE(page().find(block_of(descriptor)), std::string::npos) << block_of(descriptor);
 
   int size = 99;
-  const Bytes entry = assemble("0001 FF 8( 48[ 01 [ \"Harbour Media\" ] [ \"Harbour One\" ] ] 53[ 0500 ] )");
-  const sivane::Sdt::Service_info service(entry.data(), size);
+  Bytes const entry = assemble("0001 FF 8( 48[ 01 [ \"Harbour Media\" ] [ \"Harbour One\" ] ] 53[ 0500 ] )");
+  sivane::Sdt::Service_info const service(entry.data(), size);
   EXPECT_NE(page().find(block_of(service)), std::string::npos) << block_of(service);
 }
 

@@ -53,8 +53,8 @@ std::string saved_names() {
 std::string names_in(std::string const& cell) {
   std::string names;
   for (std::size_t at = cell.find('`'); at != std::string::npos;) {
-    const std::size_t end = cell.find('`', at + 1);
-    const bool is_item = at >= 3 && cell.compare(at - 3, 3, "of ") == 0;
+    std::size_t const end = cell.find('`', at + 1);
+    bool const is_item = at >= 3 && cell.compare(at - 3, 3, "of ") == 0;
     if (!is_item) names += cell.substr(at + 1, end - at - 1) + ' ';
     at = cell.find('`', end + 1);
   }
@@ -64,12 +64,12 @@ std::string names_in(std::string const& cell) {
 /// What the page lists of a descriptor.
 std::string listed_names(std::string const& element) {
   std::istringstream lines(page());
-  const std::string cell = "| `" + element + "` | ";
+  std::string const cell = "| `" + element + "` | ";
   for (std::string line; std::getline(lines, line);) {
-    const std::size_t at = line.find(cell);
+    std::size_t const at = line.find(cell);
     if (at == std::string::npos || line.compare(0, 4, "| 0x") != 0) continue;
-    const std::size_t attributes = at + cell.size();
-    const std::size_t children = line.find(" | ", attributes);
+    std::size_t const attributes = at + cell.size();
+    std::size_t const children = line.find(" | ", attributes);
     return names_in(line.substr(attributes, children - attributes)) + "| " + names_in(line.substr(children));
   }
   return "no such row";

@@ -58,13 +58,13 @@ std::string attribute_of_root(Document const& document, char16_t const* name) {
 
 TEST(Document, WritesWhatItsNodesHold) {
   Document document;
-  const auto root = document.make_root("root");
+  auto const root = document.make_root("root");
   AddAttribute(document.dom(), root.get(), u"text", " a\t\n\r\"'&<>\x01\x1F\xE4");
   AddAttribute(document.dom(), root.get(), u"number", 1.5);
   CComPtr<IXMLDOMElement> child;
   ASSERT_EQ(document.dom()->createElement(u"child", child.receive()), S_OK);
   ASSERT_EQ(root->appendChild(child.get(), nullptr), S_OK);
-  const std::string text =
+  std::string const text =
       "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
       "<root text=\" a&#09;&#10;&#13;&quot;'&amp;&lt;>\u2401\u241F\u00E4\" number=\"1.5\">\n"
       "  <child />\n"
@@ -74,7 +74,7 @@ TEST(Document, WritesWhatItsNodesHold) {
 }
 
 TEST(Document, KeepsWhatItLoadsButBlanks) {
-  const std::string text =
+  std::string const text =
       "<?xml version='1.0' encoding='ISO-8859-1' standalone='yes'?>\n<!--first--><?target data?>\n"
       "<r a = '1'\n b='&#x20AC;&lt;&apos;\n\xE4'> <!-- c --><d>t&amp;<![CDATA[<x>]]>u</d>\n\t<e/> </r> "
       "<!--last-->";
@@ -85,14 +85,14 @@ TEST(Document, KeepsWhatItLoadsButBlanks) {
 }
 
 TEST(Document, TakesTheOtherEncodings) {
-  const std::string utf16("\xFF\xFE<\0r\0 \0a\0=\0'\0\xE4\0'\0/\0>\0", 22);
+  std::string const utf16("\xFF\xFE<\0r\0 \0a\0=\0'\0\xE4\0'\0/\0>\0", 22);
   EXPECT_EQ(attribute_of_root(Document::load_string(utf16), u"a"), "\xE4");
   EXPECT_EQ(attribute_of_root(Document::load_string("\xEF\xBB\xBF<r a='\xC3\xA4'/>"), u"a"), "\xE4");
 }
 
 TEST(Document, EveryByteSurvivesAFile) {
-  const Folder folder;
-  const std::string path = folder.file("bytes.xml");
+  Folder const folder;
+  std::string const path = folder.file("bytes.xml");
   {
     Document document;
     AddAttribute(document.dom(), document.make_root("root").get(), u"all", all_bytes());
@@ -106,9 +106,9 @@ class OtherReaders : public ::testing::Test {
  protected:
   OtherReaders() {
     Document document;
-    const auto root = document.make_root("root");
+    auto const root = document.make_root("root");
     AddAttribute(document.dom(), root.get(), u"all", all_bytes());
-    const char16_t forbidden[] = {u'a', 0xD800, 0xFFFE, 0xFFFF, 0xDC00, 0xD83D, 0xDE00, 0};
+    char16_t const forbidden[] = {u'a', 0xD800, 0xFFFE, 0xFFFF, 0xDC00, 0xD83D, 0xDE00, 0};
     AddAttribute(document.dom(), root.get(), u"forbidden", tagVARIANT(std::u16string(forbidden)));
     document.save_file(path());
   }
@@ -129,7 +129,7 @@ TEST_F(OtherReaders, Libxml2) {
 
 TEST_F(OtherReaders, Python) {
   if (!runs("python3 -c 'import xml.dom.minidom'")) GTEST_SKIP() << "there is no python3";
-  const std::string check =
+  std::string const check =
       "python3 -c '\n"
       "import sys, xml.dom.minidom\n"
       "root = xml.dom.minidom.parse(sys.argv[1]).documentElement\n"
@@ -141,10 +141,10 @@ TEST_F(OtherReaders, Python) {
 }
 
 TEST(Document, RefusesWhatIsNoDocument) {
-  const std::string invalid = "not well-formed (invalid token)";
-  const std::string bomb =
+  std::string const invalid = "not well-formed (invalid token)";
+  std::string const bomb =
       "<!DOCTYPE a [<!ENTITY b 'bbbbbbbbbb'><!ENTITY c '&b;&b;&b;&b;&b;&b;&b;&b;'>]>\n<a>&c;&c;&c;</a>";
-  const std::pair<std::string, std::string> rows[] = {
+  std::pair<std::string, std::string> const rows[] = {
       {"", "line 1: no element found"},
       {" \n<!-- -->\n", "line 3: no element found"},
       {"text", "line 1: syntax error"},
@@ -181,7 +181,7 @@ TEST(Document, RefusesWhatIsNoDocument) {
 }
 
 TEST(Document, TakesWhatIsJustAllowed) {
-  const Document deep = Document::load_string(repeated("<a>", 64) + "text<!---->" + repeated("</a>", 64));
+  Document const deep = Document::load_string(repeated("<a>", 64) + "text<!---->" + repeated("</a>", 64));
   EXPECT_EQ(Document::load_string(deep.save_string()).save_string(), deep.save_string());
   std::string large = "<a/>";
   large.resize(64 << 20, ' ');
@@ -189,8 +189,8 @@ TEST(Document, TakesWhatIsJustAllowed) {
 }
 
 TEST(Document, NamesTheFileThatFails) {
-  const Folder folder;
-  const std::string missing = folder.file("missing.xml"), broken = folder.file("broken.xml");
+  Folder const folder;
+  std::string const missing = folder.file("missing.xml"), broken = folder.file("broken.xml");
   EXPECT_TRUE(throws([&] { Document::load_file(missing); },
                      "cannot load " + missing + ": No such file or directory"));
   EXPECT_TRUE(throws([&] { Document::load_file(folder.file("")); },
@@ -200,8 +200,8 @@ TEST(Document, NamesTheFileThatFails) {
       throws([&] { Document::load_file(broken); }, "cannot load " + broken + ": line 2: mismatched tag"));
   EXPECT_TRUE(throws([] { Document::load_file("/dev/zero"); }, "cannot load /dev/zero: more than 64 MiB"));
 
-  const Document document = Document::load_string("<a/>");
-  const std::string nowhere = folder.file("no/folder.xml");
+  Document const document = Document::load_string("<a/>");
+  std::string const nowhere = folder.file("no/folder.xml");
   EXPECT_TRUE(
       throws([&] { document.save_file(nowhere); }, "cannot save " + nowhere + ": No such file or directory"));
   EXPECT_TRUE(

@@ -42,7 +42,7 @@ CComPtr<IXMLDOMNodeList> children(IXMLDOMNode* node) {
 
 /// The names of the children, each behind a blank.
 std::u16string child_names(IXMLDOMNode* node) {
-  const auto list = children(node);
+  auto const list = children(node);
   std::u16string names;
   long length = -1;
   EXPECT_EQ(list->get_length(&length), S_OK);
@@ -58,13 +58,13 @@ std::u16string child_names(IXMLDOMNode* node) {
 
 /// The document without its first line.
 std::string body(Document const& document) {
-  const std::string text = document.save_string();
+  std::string const text = document.save_string();
   return text.substr(text.find('\n') + 1);
 }
 
 TEST(Nodes, AreListedInOrder) {
-  const Document document = Document::load_string("<a><b/>text<!--c--><?target?><B/><b x='1'/></a>");
-  const Node root = document.root_node();
+  Document const document = Document::load_string("<a><b/>text<!--c--><?target?><B/><b x='1'/></a>");
+  Node const root = document.root_node();
   EXPECT_EQ(child_names(root.get()), u" b #text #comment target B b");
   EXPECT_EQ(child_names(document.dom()), u" a");
   std::u16string name;
@@ -78,8 +78,8 @@ TEST(Nodes, AreListedInOrder) {
     EXPECT_GE(root->selectSingleNode(missing, found.receive()), 0);
     EXPECT_FALSE(found);
   }
-  const auto list = children(root.get());
-  for (const long index : {-1L, 6L, 1L << 40}) EXPECT_LT(list->get_item(index, item.receive()), 0);
+  auto const list = children(root.get());
+  for (long const index : {-1L, 6L, 1L << 40}) EXPECT_LT(list->get_item(index, item.receive()), 0);
 
   tagVARIANT value;
   EXPECT_EQ(list->get_item(1, item.receive()), S_OK);
@@ -94,7 +94,7 @@ TEST(Nodes, AreListedInOrder) {
 
 TEST(Nodes, GoWhereTheyAreAppendedWithAllThatTheyHold) {
   Document document;
-  const Element root = document.make_root("root"), list = made(document, u"list"),
+  Element const root = document.make_root("root"), list = made(document, u"list"),
                 item = made(document, u"item");
   EXPECT_EQ(body(document), "<root />\n");
   CComPtr<IXMLDOMAttribute> attribute;
@@ -120,7 +120,7 @@ TEST(Nodes, GoWhereTheyAreAppendedWithAllThatTheyHold) {
 
 TEST(Nodes, AttributesKeepTheirOrderAndAreReplacedByName) {
   Document document;
-  const Element root = document.make_root("root");
+  Element const root = document.make_root("root");
   for (char16_t const* const name : {u"c", u"a", u"b"}) AddAttribute(document.dom(), root.get(), name, "old");
   CComPtr<IXMLDOMAttribute> fresh, old;
   document.dom()->createAttribute(u"a", fresh.receive());
@@ -137,10 +137,10 @@ TEST(Nodes, AttributesKeepTheirOrderAndAreReplacedByName) {
 TEST(Nodes, RefuseWhatMakesNoTree) {
   Document document, other;
   MemoryDom foreign;
-  const Element root = document.make_root("root"), inner = made(document, u"inner"),
+  Element const root = document.make_root("root"), inner = made(document, u"inner"),
                 alone = made(document, u"alone");
   root->appendChild(inner.get(), nullptr);
-  const Element other_root = other.make_root("root"), foreign_element = foreign.element(u"foreign");
+  Element const other_root = other.make_root("root"), foreign_element = foreign.element(u"foreign");
   EXPECT_LT(inner->appendChild(root.get(), nullptr), 0);
   EXPECT_LT(root->appendChild(root.get(), nullptr), 0);
   EXPECT_LT(alone->appendChild(alone.get(), nullptr), 0);
@@ -164,8 +164,8 @@ TEST(Nodes, RefuseWhatMakesNoTree) {
 
 TEST(Nodes, OutliveTheirDocument) {
   auto document = std::make_unique<Document>(Document::load_string("<a><b c='1'/>text</a>"));
-  const Element root = document->root_element(), loose = made(*document, u"loose");
-  const auto list = children(root.get());
+  Element const root = document->root_element(), loose = made(*document, u"loose");
+  auto const list = children(root.get());
   CComPtr<IXMLDOMDocument> maker(document->dom());
   CComPtr<IXMLDOMNamedNodeMap> map;
   Node child, text, named;
@@ -194,7 +194,7 @@ TEST(Nodes, ALongListIsWalkedInLinearTime) {
   constexpr long count = 1000000;
   std::string text = "<a>";
   for (long i = 0; i < count; ++i) text += "<b/>";
-  const auto list = children(Document::load_string(text + "</a>").root_node().get());
+  auto const list = children(Document::load_string(text + "</a>").root_node().get());
   Node child;
   for (long i = count - 1; i >= 0; --i) ASSERT_EQ(list->get_item(i, child.receive()), S_OK);
   EXPECT_LT(list->get_item(count, child.receive()), 0);
@@ -215,7 +215,7 @@ TEST(Nodes, AnyDepthIsBuiltAndFreedWithoutRecursion) {
 
   Element below = made(upwards, u"a");
   for (int i = 1; i < depth; ++i) {
-    const Element above = made(upwards, u"a");
+    Element const above = made(upwards, u"a");
     ASSERT_EQ(above->appendChild(below.get(), nullptr), S_OK);
     below = above;
   }
@@ -250,10 +250,10 @@ TEST(Nodes, ExhaustedMemoryIsBadAlloc) {
   int blocks = 0;
   for (bool done = false; !done; ++blocks) {
     ASSERT_LT(blocks, 1000);
-    const Scarcity scarcity(blocks);
+    Scarcity const scarcity(blocks);
     try {
       Document document = Document::load_string(text);
-      const Element element = made(document, u"new");
+      Element const element = made(document, u"new");
       AddAttribute(document.dom(), element.get(), u"long", std::string(40000, 'e'));
       EXPECT_EQ(document.root_element()->appendChild(element.get(), nullptr), S_OK);
       done = true;

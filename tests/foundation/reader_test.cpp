@@ -37,7 +37,7 @@ TEST(Error, HoldsCodeAndText) {
 }
 
 TEST(Error, CopiesOutliveTheirOriginal) {
-  const std::string text = "a text that is too long for the string's own storage";
+  std::string const text = "a text that is too long for the string's own storage";
   auto original = std::make_unique<error>(error::syntax_error, 0x80000001u);
   original->text = text;
   std::vector<error> copies{*original, error("other")};
@@ -62,13 +62,13 @@ template <class Action>
 }
 
 TEST(Reader, EveryFieldWidthAtEveryOffset) {
-  const HeapBlock block(hex("C9 63 5A 0F B7"));
-  const std::uint64_t all = 0xC9635A0FB7;
+  HeapBlock const block(hex("C9 63 5A 0F B7"));
+  std::uint64_t const all = 0xC9635A0FB7;
   for (int offset = 0; offset < 8; ++offset) {
     for (int width = 0; width <= 31; ++width) {
       Reader reader = Reader::within(block.data(), block.size());
       reader.skip_bits(offset);
-      const std::uint64_t expected = all >> (40 - offset - width) & ((1ull << width) - 1);
+      std::uint64_t const expected = all >> (40 - offset - width) & ((1ull << width) - 1);
       EXPECT_EQ(static_cast<std::uint64_t>(reader.bits(width)), expected) << offset << ' ' << width;
       EXPECT_EQ(reader.left(), (40 - offset - width) / 8);
     }
@@ -76,7 +76,7 @@ TEST(Reader, EveryFieldWidthAtEveryOffset) {
 }
 
 TEST(Reader, ReadsEveryForm) {
-  const HeapBlock block(hex("80 7E 81 FF FF FF FE FF FF FF FE 65 6E 67 41 00 42 12 3F 02 43 44"));
+  HeapBlock const block(hex("80 7E 81 FF FF FF FE FF FF FF FE 65 6E 67 41 00 42 12 3F 02 43 44"));
   Reader reader = Reader::within(block.data(), block.size());
   EXPECT_TRUE(reader.flag());
   EXPECT_FALSE(reader.flag());
@@ -97,7 +97,7 @@ TEST(Reader, ReadsEveryForm) {
 }
 
 TEST(Reader, FailsAtItsLimitForEveryShorterBlock) {
-  const auto read_all = [](Reader reader) {
+  auto const read_all = [](Reader reader) {
     reader.u8();
     reader.u16();
     reader.u32();
@@ -109,14 +109,14 @@ TEST(Reader, FailsAtItsLimitForEveryShorterBlock) {
     reader.raw(1);
   };
   for (int size = 0; size <= 15; ++size) {
-    const HeapBlock block(Bytes(static_cast<std::size_t>(size), 0x11));
-    const auto read = [&] { read_all({block.data(), size, size, named}); };
+    HeapBlock const block(Bytes(static_cast<std::size_t>(size), 0x11));
+    auto const read = [&] { read_all({block.data(), size, size, named}); };
     EXPECT_EQ(fails_named(read), size < 15) << size;
   }
 }
 
 TEST(Reader, FailuresTakeEveryFormAndTakeNoBytes) {
-  const HeapBlock block(hex("01 02"));
+  HeapBlock const block(hex("01 02"));
   struct Case {
     Failure failure;
     error::errorcode_enum code;
@@ -129,13 +129,13 @@ TEST(Reader, FailuresTakeEveryFormAndTakeNoBytes) {
     EXPECT_TRUE(throws([&] { reader.u32(); }, c.code, c.text));
     EXPECT_EQ(reader.u16(), 0x0102);
   }
-  for (const Failure failure : {too_little_data, code_alone}) {
+  for (Failure const failure : {too_little_data, code_alone}) {
     EXPECT_EQ(caught_error([&] { raise(failure); })->value, 0xFFFFFFFFu);
   }
 }
 
 TEST(Reader, FieldsMayPassItsEndButNotItsLimit) {
-  const HeapBlock block(hex("01 02 03 04"));
+  HeapBlock const block(hex("01 02 03 04"));
   Reader reader(block.data(), 1, 4, named);
   EXPECT_EQ(reader.u16(), 0x0102);
   EXPECT_TRUE(reader.past_end());
@@ -147,7 +147,7 @@ TEST(Reader, FieldsMayPassItsEndButNotItsLimit) {
 }
 
 TEST(Reader, SubReadersShareTheLimit) {
-  const HeapBlock block(hex("01 02 03 04 05"));
+  HeapBlock const block(hex("01 02 03 04 05"));
   Reader reader = Reader::within(block.data(), block.size());
   reader.u8();
   Reader sub = reader.sub(2, named);
@@ -160,7 +160,7 @@ TEST(Reader, SubReadersShareTheLimit) {
 }
 
 TEST(Reader, LoopsShareTheLimitAndMayClaimMore) {
-  const HeapBlock block(hex("01 02 03 04 05"));
+  HeapBlock const block(hex("01 02 03 04 05"));
   Reader reader = Reader::within(block.data(), block.size());
   reader.u8();
   Reader loop = reader.loop(2, named);
@@ -178,7 +178,7 @@ TEST(Reader, LoopsShareTheLimitAndMayClaimMore) {
 }
 
 TEST(Reader, EachDescriptorMayRunOverTheLoopButNotOverTheLimit) {
-  const HeapBlock block(hex("00 52 01 11 70 02 22 33 FF"));
+  HeapBlock const block(hex("00 52 01 11 70 02 22 33 FF"));
   struct Case {
     int size;
     bool exact;
@@ -210,8 +210,8 @@ TEST(Reader, ReadsWholeItemsUpToItsEnd) {
     explicit Pair(Reader& r) : first(r.u8()), second(r.u8()) {}
     int first, second;
   };
-  const HeapBlock block(hex("01 02 03 04 05 06 07"));
-  const auto of = [&](int size) { return Reader(block.data(), size, 7, code_alone); };
+  HeapBlock const block(hex("01 02 03 04 05 06 07"));
+  auto const of = [&](int size) { return Reader(block.data(), size, 7, code_alone); };
   EXPECT_EQ(of(0).numbers<int>(16, named), std::vector<int>());
   EXPECT_EQ(of(4).numbers<int>(16, named), (std::vector<int>{0x0102, 0x0304}));
   EXPECT_TRUE(fails_named([&] { of(5).numbers<int>(16, named); }));
@@ -222,14 +222,14 @@ TEST(Reader, ReadsWholeItemsUpToItsEnd) {
 }
 
 TEST(DescriptorBytes, ABarePointerIsBoundByItsLength) {
-  const HeapBlock block(hex("4D 02 AA BB"));
+  HeapBlock const block(hex("4D 02 AA BB"));
   Reader body = DescriptorBytes(block.data()).body(named);
   EXPECT_EQ(body.u16(), 0xAABB);
   EXPECT_TRUE(fails_named([&] { body.u8(); }));
 }
 
 TEST(DescriptorBytes, InASectionItMayReadToItsEnd) {
-  const HeapBlock block(hex("4D 01 AA BB 05 00 06"));
+  HeapBlock const block(hex("4D 01 AA BB 05 00 06"));
   Reader section = Reader::within(block.data(), block.size());
   Reader body = section.descriptor().body();
   EXPECT_EQ(body.left(), 1);
@@ -240,13 +240,13 @@ TEST(DescriptorBytes, InASectionItMayReadToItsEnd) {
 }
 
 TEST(DescriptorBytes, FailsWhereTagLengthOrBodyLeaveTheSection) {
-  const HeapBlock block(hex("4D 03 AA BB"));
-  for (const int size : {0, 1}) {
+  HeapBlock const block(hex("4D 03 AA BB"));
+  for (int const size : {0, 1}) {
     EXPECT_TRUE(throws([&] { DescriptorBytes(block.data(), block.data() + size); }, "too little data"));
   }
   Reader section(block.data(), 4, 4, named);
   EXPECT_TRUE(fails_named([&] { section.descriptor(); }));
-  const DescriptorBytes cut(block.data(), block.data() + 4);
+  DescriptorBytes const cut(block.data(), block.data() + 4);
   EXPECT_TRUE(throws([&] { cut.body().rest(); }, "too little data"));
 }
 

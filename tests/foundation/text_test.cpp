@@ -30,7 +30,7 @@ TEST(Text, DropsOneSelectorByteInFront) {
                         {hex("03 41 05 42"), hex("41 05 42")},
                         {hex("02 05 05"), hex("05")},
                         {Bytes(256, 0xFF), Bytes(255, 0xFF)}}) {
-    const HeapBlock field(c.field);
+    HeapBlock const field(c.field);
     int used = -1;
     EXPECT_EQ(Text(field.data(), used), string_of(c.text));
     EXPECT_EQ(used, field.size());
@@ -40,7 +40,7 @@ TEST(Text, DropsOneSelectorByteInFront) {
 TEST(Text, KnowsEverySelector) {
   std::string selectors;
   for (int first = 0; first < 256; ++first) {
-    const Bytes data{static_cast<unsigned char>(first), 'A'};
+    Bytes const data{static_cast<unsigned char>(first), 'A'};
     Text text;
     text.parse(2, data.data());
     if (text == "A") selectors += static_cast<char>(first);
@@ -49,20 +49,20 @@ TEST(Text, KnowsEverySelector) {
 }
 
 TEST(Text, AppendsToWhatItHolds) {
-  const HeapBlock field(hex("02 05 41"));
+  HeapBlock const field(hex("02 05 41"));
   int used = 0;
   Text text(field.data(), used);
   text.parse(field.data(), used);
-  for (const int none : {0, -1}) text.parse(none, nullptr);
+  for (int const none : {0, -1}) text.parse(none, nullptr);
   EXPECT_EQ(text, "AA");
   Reader reader = Reader::within(field.data(), 2);
   EXPECT_TRUE(throws([&] { text.parse(reader); }, "too little data"));
 }
 
 TEST(LengthPrefixedString, TakesTheBytesAsTheyComeAndDumpsTwoLines) {
-  const HeapBlock block(hex("0B 05 21 00 43 44 45 46 47 48 49 50"));
+  HeapBlock const block(hex("0B 05 21 00 43 44 45 46 47 48 49 50"));
   int used = -1;
-  const LengthPrefixedString string(block.data(), 0, used);  // its size is not looked at
+  LengthPrefixedString const string(block.data(), 0, used);  // its size is not looked at
   EXPECT_EQ(string.value, std::string("\5!\0CDEFGHIP", 11));
   EXPECT_EQ(used, 12);
   std::ostringstream os;
@@ -71,11 +71,11 @@ TEST(LengthPrefixedString, TakesTheBytesAsTheyComeAndDumpsTwoLines) {
 }
 
 TEST(MultilingualNameInfo, FitsInItsLoopOrFails) {
-  const Bytes record = hex("65 6E 67 03 05 42 43 FF");
+  Bytes const record = hex("65 6E 67 03 05 42 43 FF");
   for (int size = -1; size <= 8; ++size) {
-    const HeapBlock loop({record.begin(), record.begin() + std::max(size, 0)});
+    HeapBlock const loop({record.begin(), record.begin() + std::max(size, 0)});
     int used = -1;
-    const auto build = [&] { return MultilingualNameInfo(loop.data(), size, used); };
+    auto const build = [&] { return MultilingualNameInfo(loop.data(), size, used); };
     if (size < 4) {
       EXPECT_TRUE(throws(build, error::length_error, "multilingual_name_info_descriptor")) << size;
     } else if (size < 7) {
@@ -92,7 +92,7 @@ using Ulongs = std::vector<unsigned long>;
 
 TEST(Bin2str, AppendsLowerCaseGroups) {
   std::string text = "<";
-  const Bytes bytes{0x0A, 0xFF};
+  Bytes const bytes{0x0A, 0xFF};
   bin2str(bytes, text);
   bin2str(bytes.data(), text, 2);
   bin2str(Ints{0, -1, 0x12AB}, text);
@@ -129,7 +129,7 @@ TEST(Str2bin, LeavesTheTargetAloneForPartialGroups) {
 
 TEST(Str2bin, StopsAtTheRoomOrTheTextsEnd) {
   for (int room = 0; room <= 7; ++room) {
-    const HeapBlock block(Bytes(static_cast<std::size_t>(room), 0xEE));
+    HeapBlock const block(Bytes(static_cast<std::size_t>(room), 0xEE));
     str2bin("0102030405", block.data(), room);
     for (int i = 0; i < room; ++i) EXPECT_EQ(block.data()[i], i < 5 ? i + 1 : 0xEE) << room;
   }
@@ -141,14 +141,14 @@ TEST(Str2bin, AGroupStopsAtItsFirstBadDigit) {
 }
 
 TEST(DumpBlock, WritesSixteenBytesALine) {
-  const std::string full = "41 41 41 41 41 41 41 41 41 41 41 41 41 41 41 41  : AAAAAAAAAAAAAAAA\n";
+  std::string const full = "41 41 41 41 41 41 41 41 41 41 41 41 41 41 41 41  : AAAAAAAAAAAAAAAA\n";
   for (auto const& [bytes, text] : std::vector<std::pair<Bytes, std::string>>{
            {{}, ""},
            {hex("41 5A 61 7A 30 40 5B 60 7B C4 00 09 FF 4D 6D 20"),
             "41 5a 61 7a 30 40 5b 60 7b c4  0  9 ff 4d 6d 20  : AZaz.........Mm.\n"},
            {Bytes(32, 'A'), full + full},
            {Bytes(17, 'A'), full + "41 " + std::string(45, ' ') + " : A\n"}}) {
-    const HeapBlock block(bytes);
+    HeapBlock const block(bytes);
     std::ostringstream os;
     dump_block(os, block.data(), block.size());
     EXPECT_EQ(os.str(), text);

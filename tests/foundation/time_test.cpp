@@ -24,11 +24,11 @@ TEST(DateTime, DecodesTheExampleOfTheStandard) {
 TEST(DateTime, AgreesWithTheCalendarOnEveryDay) {
   using namespace std::chrono;
   constexpr sys_days epoch = year(1858) / November / 17;
-  const int first = (sys_days(year(1900) / March / 1) - epoch).count();  // the formula's first day
+  int const first = (sys_days(year(1900) / March / 1) - epoch).count();  // the formula's first day
   for (int mjd = first; mjd <= 0xFFFF; ++mjd) {
-    const Bytes bytes{static_cast<unsigned char>(mjd >> 8), static_cast<unsigned char>(mjd), 0, 0, 0};
-    const DateTime date(bytes.data());
-    const year_month_day expected(epoch + days(mjd));
+    Bytes const bytes{static_cast<unsigned char>(mjd >> 8), static_cast<unsigned char>(mjd), 0, 0, 0};
+    DateTime const date(bytes.data());
+    year_month_day const expected(epoch + days(mjd));
     ASSERT_EQ(year(date.year) / date.month / date.day, expected) << mjd;
   }
 }
@@ -40,8 +40,8 @@ TEST(TimeValues, DigitsAboveNineCountWithTheirValue) {
 }
 
 TEST(TimeValues, StreamFormsHaveNoPaddingAndSetDecimalWhereDumpsKeepTheBase) {
-  const auto date = from<DateTime>("D0 A6 09 11 12");
-  const auto duration = from<Duration>("09 11 12");
+  auto const date = from<DateTime>("D0 A6 09 11 12");
+  auto const duration = from<Duration>("09 11 12");
   std::ostringstream os;
   os.fill('0');
   os << std::hex << date << '\n'
@@ -58,7 +58,7 @@ TEST(TimeValues, StreamFormsHaveNoPaddingAndSetDecimalWhereDumpsKeepTheBase) {
 }
 
 TEST(TimeValues, TextsRestoreWhatTheyReach) {
-  const std::string nines(1000, '9');
+  std::string const nines(1000, '9');
   struct Case {
     std::string text, expected;
   };
@@ -86,7 +86,7 @@ TEST(TimeValues, TextsRestoreWhatTheyReach) {
 }
 
 TEST(ApplicationIdentifier, DecodesAndDumps) {
-  const auto id = from<ApplicationIdentifier>("80 00 00 15 0F 01");
+  auto const id = from<ApplicationIdentifier>("80 00 00 15 0F 01");
   EXPECT_EQ(id.application_identifier_as_text(), "80000015 0F01");
   std::ostringstream os;
   id.dump_state(os);
@@ -100,7 +100,7 @@ TEST(ApplicationIdentifier, ReadsEitherCaseAndShortNumbers) {
   struct Case {
     char const *text, *expected;
   };
-  for (const Case c : {Case{"80000015 ff01", "80000015 FF01"},
+  for (Case const c : {Case{"80000015 ff01", "80000015 FF01"},
                        {"aB 0Xc", "000000AB 000C"},
                        {"7", "00000007 0002"},
                        {"g 5", "00000001 0002"}}) {

@@ -61,7 +61,7 @@ class TraceLogTest : public ::testing::Test {
   /// All that was written since the last call.
   std::string written() {
     std::string text(1 << 20, '\0');
-    const ssize_t got = pread(fileno(file_), text.data(), text.size(), read_);
+    ssize_t const got = pread(fileno(file_), text.data(), text.size(), read_);
     read_ += got;
     return text.substr(0, static_cast<std::size_t>(got));
   }
@@ -75,7 +75,7 @@ TEST_F(TraceLogTest, WritesLevelsFromOneToTheHighest) {
   EXPECT_EQ(trace_log.log_options, 0u);
   EXPECT_EQ(trace_log.log_max_level, 0);
   EXPECT_EQ(trace_log.log_file, 0);
-  for (const int max_level : {-1, 0, 3}) {
+  for (int const max_level : {-1, 0, 3}) {
     open_gate(max_level);
     for (int level = -2; level <= 4; ++level) {
       for (trace_log.log_lock_ready = 0; trace_log.log_lock_ready < 2; ++trace_log.log_lock_ready) {
@@ -88,7 +88,7 @@ TEST_F(TraceLogTest, WritesLevelsFromOneToTheHighest) {
 
 TEST_F(TraceLogTest, ClosedOrBadHandleIsSilent) {
   open_gate(9);
-  for (const int handle : {1 << 20, -1}) {
+  for (int const handle : {1 << 20, -1}) {
     trace_log.log_file = handle;
     EXPECT_EQ(log_write(1, "lost"), 0);
   }
@@ -102,9 +102,9 @@ TEST_F(TraceLogTest, FieldsFollowTheirOwnOrderForEveryChoice) {
     for (auto const& [level, name] : names) {
       open_gate(9, (choice & 1 ? 0x008u : 0) | (choice & 2 ? 0x004u : 0) | (choice & 4 ? 0x100u : 0) |
                        (choice & 8 ? 0x080u : 0));
-      const std::string before = present_second();
+      std::string const before = present_second();
       log_write(level, "say \"%s\" %#x", "hi", 255u);
-      const std::string record = written();
+      std::string const record = written();
       ASSERT_EQ(shape_of_time(record), time_shape);
       EXPECT_LE(before, record.substr(0, before.size()));
       EXPECT_LE(record.substr(0, before.size()), present_second());
@@ -117,10 +117,10 @@ TEST_F(TraceLogTest, FieldsFollowTheirOwnOrderForEveryChoice) {
 }
 
 TEST_F(TraceLogTest, OverlongMessagesKeepTheLineEnd) {
-  for (const std::size_t size : {4067u, 4068u, 4069u, 4095u, 4096u, 10000u}) {
+  for (std::size_t const size : {4067u, 4068u, 4069u, 4095u, 4096u, 10000u}) {
     open_gate(1);
     log_write(1, "%s", std::string(size, 'x').c_str());
-    const std::string record = written();
+    std::string const record = written();
     EXPECT_EQ(record.size(), std::min<std::size_t>(size + time_size + 4, 4095));
     EXPECT_EQ(record.find('\r'), record.size() - 2) << size;
     EXPECT_EQ(record.substr(record.size() - 4), "x\"\r\n") << size;
@@ -130,7 +130,7 @@ TEST_F(TraceLogTest, OverlongMessagesKeepTheLineEnd) {
 TEST_F(TraceLogTest, ThreadsUnderTheLockWriteWholeLinesInOrder) {
   open_gate(3);
   trace_log.log_lock_ready = 1;
-  const std::string filler(200, 'y');
+  std::string const filler(200, 'y');
   std::array<int, 4> next{};
   std::vector<std::thread> writers;
   for (std::size_t t = 0; t < next.size(); ++t) {
@@ -142,11 +142,11 @@ TEST_F(TraceLogTest, ThreadsUnderTheLockWriteWholeLinesInOrder) {
   std::istringstream lines(written());
   for (std::string text; std::getline(lines, text);) {
     ASSERT_EQ(shape_of_time(text), time_shape);
-    const auto thread = static_cast<std::size_t>(text.at(time_size + 1) - '0');
-    const std::string count = std::to_string(next.at(thread)++);
+    auto const thread = static_cast<std::size_t>(text.at(time_size + 1) - '0');
+    std::string const count = std::to_string(next.at(thread)++);
     EXPECT_EQ(text.substr(time_size), "\"" + std::to_string(thread) + " " + count + " " + filler + "\"\r");
   }
-  for (const int count : next) EXPECT_EQ(count, 300);
+  for (int const count : next) EXPECT_EQ(count, 300);
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ registry::List read(std::string const& text) {
 }
 
 TEST(RegistryList, ExpandsRunsById) {
-  const registry::List list = read(
+  registry::List const list = read(
       "0x0009-0x000A\tHead\n"
       "\n"
       "0x0001-0x0003\tLong\xC2\xA0\n"
@@ -42,7 +42,7 @@ TEST(RegistryList, ExpandsRunsById) {
 }
 
 TEST(RegistryList, RefusesAMalformedLine) {
-  const std::string digits = " is not 0x and 4 hexadecimal digits";
+  std::string const digits = " is not 0x and 4 hexadecimal digits";
   struct {
     std::string line, complaint;
   } const cases[] = {
@@ -81,14 +81,14 @@ TEST(RegistryList, RefusesAMalformedLine) {
 
 TEST(RegistryList, StopsTheBuildWhenItIsMalformed) {
   namespace fs = std::filesystem;
-  const fs::path folder = SIVANE_MALFORMED_LIST;
+  fs::path const folder = SIVANE_MALFORMED_LIST;
   fs::remove_all(folder);
   fs::create_directory(folder);
-  const std::string tables = (folder / "tables.cpp").string();
-  const std::string errors = (folder / "errors").string();
-  const std::string list = (folder / "bad.tsv").string();
+  std::string const tables = (folder / "tables.cpp").string();
+  std::string const errors = (folder / "errors").string();
+  std::string const list = (folder / "bad.tsv").string();
   std::ofstream(list) << "0x0001\tfirst\n0x0002\n";
-  const std::string command = "'" SIVANE_MAKE_TABLES "' '" + tables + "' '" + list + "' 2> '" + errors + "'";
+  std::string const command = "'" SIVANE_MAKE_TABLES "' '" + tables + "' '" + list + "' 2> '" + errors + "'";
   EXPECT_NE(std::system(command.c_str()), 0);
   EXPECT_FALSE(fs::exists(tables));
   std::ostringstream complaint;

@@ -10,21 +10,21 @@
 namespace sivane::testing {
 namespace {
 
-const std::string unknown = "<unknown>";
+std::string const unknown = "<unknown>";
 
 TEST(RegistryLookup, FindsTheLastRowOfAnIdAndNoOther) {
   init();
   for (Registry const& registry : registries()) {
     std::map<std::uint32_t, std::string> names;
     for (auto const& [id, name] : registry.rows) names[id] = name;
-    const auto check = [&](std::uint32_t id) {
+    auto const check = [&](std::uint32_t id) {
       ASSERT_EQ(registry.look_up(static_cast<int>(id)), names.contains(id) ? names[id] : unknown)
           << registry.name << ' ' << id;
     };
     for (std::uint32_t id = 0; id <= 0xFFFF; ++id) check(id);
     for (auto const& row : registry.rows) {
-      const std::uint32_t id = row.first;
-      for (const std::uint32_t other : {id - 1, id, id + 1, id ^ 0x10000, id ^ 0x80000000}) check(other);
+      std::uint32_t const id = row.first;
+      for (std::uint32_t const other : {id - 1, id, id + 1, id ^ 0x10000, id ^ 0x80000000}) check(other);
     }
   }
 }

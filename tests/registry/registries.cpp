@@ -22,7 +22,7 @@ Registry make(char const* name, char const* (*look_up)(int), registry::Table<Id>
 }  // namespace
 
 std::vector<Registry> const& registries() {
-  static const std::vector<Registry> all{
+  static std::vector<Registry> const all{
       make("network", get_network_id, registry::network()),
       make("ca_system", get_ca_system_id, registry::ca_system()),
       make("mhp", get_mhp_id, registry::mhp()),

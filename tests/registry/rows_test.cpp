@@ -69,7 +69,7 @@ TEST(RegistryRows, HaveTheCountsRangesAndOrderOfTheLists) {
 }
 
 TEST(RegistryRows, HaveTheNamesThatWerePublished) {
-  const std::string terrestrial = " Digital Terrestrial Television";
+  std::string const terrestrial = " Digital Terrestrial Television";
   struct {
     char const* registry;
     std::uint32_t id;
@@ -98,12 +98,12 @@ TEST(RegistryRows, HaveTheNamesThatWerePublished) {
 }
 
 TEST(RegistryRows, KeepWhatTheListsLeftInTheNames) {
-  const auto count = [](char const* registry, auto matches) {
+  auto const count = [](char const* registry, auto matches) {
     Rows const& rows = registry_named(registry).rows;
     return std::count_if(rows.begin(), rows.end(), [&](auto const& row) { return matches(row.second); });
   };
-  const auto is = [](char const* text) { return [=](std::string const& name) { return name == text; }; };
-  const auto has_entity = [](std::string const& name) { return name.find("&nbsp;") != std::string::npos; };
+  auto const is = [](char const* text) { return [=](std::string const& name) { return name == text; }; };
+  auto const has_entity = [](std::string const& name) { return name.find("&nbsp;") != std::string::npos; };
   EXPECT_EQ(count("ca_system", has_entity), 512);
   EXPECT_EQ(count("private_data", has_entity), 38);
   EXPECT_EQ(count("data_broadcast", is("Reserved for future use by DVB")), 231);
@@ -119,7 +119,7 @@ TEST(RegistryRows, KeepWhatTheListsLeftInTheNames) {
 }
 
 TEST(RegistryRows, LieWhereTheListsHaveThem) {
-  const auto where = [](char const* registry, auto is_in) {
+  auto const where = [](char const* registry, auto is_in) {
     return spans(by_id(registry_named(registry).rows), is_in);
   };
   EXPECT_EQ(where("ca_system", [](auto const&) { return true; }),
@@ -131,7 +131,7 @@ TEST(RegistryRows, LieWhereTheListsHaveThem) {
 }
 
 TEST(RegistryRows, RepeatNetworkIds) {
-  const Groups groups = by_id(registry_named("network").rows);
+  Groups const groups = by_id(registry_named("network").rows);
   EXPECT_EQ(spans(groups, [](auto const& group) { return group.second.size() > 1; }),
             (Spans{{0x022F, 0x022F},
                    {0x3001, 0x30BB},
@@ -163,8 +163,8 @@ TEST(RegistryRows, RepeatNetworkIds) {
 /// UTF-8 of ISO 8859-1 text.
 std::string utf8(std::string const& latin1) {
   std::string text;
-  for (const char c : latin1) {
-    const auto byte = static_cast<unsigned char>(c);
+  for (char const c : latin1) {
+    auto const byte = static_cast<unsigned char>(c);
     if (byte >= 0x80) text += static_cast<char>(0xC0 | byte >> 6);
     text += static_cast<char>(byte < 0x80 ? byte : 0x80 | (byte & 0x3F));
   }
@@ -172,7 +172,7 @@ std::string utf8(std::string const& latin1) {
 }
 
 TEST(RegistryRows, AreThoseOfTheListsWrittenOut) {
-  const std::filesystem::path folder = SIVANE_REGISTRY_LISTS;
+  std::filesystem::path const folder = SIVANE_REGISTRY_LISTS;
   if (!std::filesystem::is_directory(folder)) GTEST_SKIP() << "no lists beside the repository";
   std::size_t compared = 0;
   for (Registry const& registry : registries()) {
@@ -180,7 +180,7 @@ TEST(RegistryRows, AreThoseOfTheListsWrittenOut) {
     std::string line;
     for (auto const& [id, name] : registry.rows) {
       ASSERT_TRUE(std::getline(in, line)) << registry.name;
-      const std::size_t tab = line.find('\t');
+      std::size_t const tab = line.find('\t');
       ASSERT_EQ(std::stoul(line.substr(0, tab), nullptr, 16), id) << registry.name << ": " << line;
       ASSERT_EQ(line.substr(tab + 1), utf8(name)) << registry.name;
       ++compared;

@@ -13,8 +13,8 @@ std::string path_of(std::string const& file) { return SIVANE_TESTS "/" + file; }
 
 /// Lines of a dump that stand in one, as one each.
 void append(std::vector<Line>& lines, Line line) {
-  const std::string key = line.text.substr(0, 7);
-  const std::string between = " | ";
+  std::string const key = line.text.substr(0, 7);
+  std::string const between = " | ";
   if (key == "dump   " || key == "reset  ") {
     for (std::size_t bar; (bar = line.text.find(between)) != std::string::npos;) {
       lines.push_back({line.text.substr(0, bar), line.number});
@@ -47,14 +47,14 @@ std::vector<Block> read_blocks(std::string const& file) {
 }
 
 std::vector<Case> read_cases(std::string const& file) {
-  const std::string key = "hex    ";
+  std::string const key = "hex    ";
   std::vector<Case> cases;
   for (Block const& block : read_blocks(file)) {
-    const std::size_t before = cases.size();
+    std::size_t const before = cases.size();
     for (auto const& [text, number] : block.lines) {
       if (text.starts_with(key)) {
-        const std::size_t bar = std::min(text.find('|'), text.size());
-        const std::string behind = bar < text.size() ? text.substr(bar + 1) : "";
+        std::size_t const bar = std::min(text.find('|'), text.size());
+        std::string const behind = bar < text.size() ? text.substr(bar + 1) : "";
         cases.push_back(
             {block.title, text.substr(key.size(), bar - key.size()), behind, "", path_of(file), number});
       } else if (cases.size() > before) {

@@ -26,9 +26,9 @@ std::optional<error> caught_error(Action&& action) {
 /// throws none.
 template <class Action>
 std::string thrown(Action&& action) {
-  const auto failure = caught_error(action);
+  auto const failure = caught_error(action);
   if (!failure) return "";
-  const std::pair<error::errorcode_enum, char const*> names[] = {
+  std::pair<error::errorcode_enum, char const*> const names[] = {
       {error::no_errorcode, "no_errorcode"},
       {error::length_error, "length_error"},
       {error::item_length_error, "item_length_error"},
@@ -37,14 +37,14 @@ std::string thrown(Action&& action) {
   for (auto const& [code, name] : names) {
     if (code == failure->code) text = name;
   }
-  const std::string message = failure->what();
+  std::string const message = failure->what();
   return message.empty() ? text : text + ' ' + message;
 }
 
 /// For EXPECT_TRUE: whether `action` throws an `error` of this code and text.
 template <class Action>
 ::testing::AssertionResult throws(Action&& action, error::errorcode_enum code, std::string const& text) {
-  const auto failure = caught_error(action);
+  auto const failure = caught_error(action);
   if (!failure) return ::testing::AssertionFailure() << "nothing was thrown";
   if (failure->code == code && failure->what() == text) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure()

@@ -36,7 +36,7 @@ class Object : public Interface, public Counted {
   using Counted::Counted;
   long AddRef() override { return ++references; }
   long Release() override {
-    const long left = --references;
+    long const left = --references;
     if (left == 0) delete this;
     return left;
   }
@@ -82,7 +82,7 @@ class List final : public Object<IXMLDOMNodeList> {
 };
 
 CComPtr<IXMLDOMNode> named(std::vector<CComPtr<IXMLDOMNode>> const& nodes, std::u16string const& name) {
-  const auto found = std::find_if(nodes.begin(), nodes.end(),
+  auto const found = std::find_if(nodes.begin(), nodes.end(),
                                   [&](auto const& node) { return node_of(node.get()).name == name; });
   return found == nodes.end() ? CComPtr<IXMLDOMNode>() : *found;
 }
@@ -149,14 +149,14 @@ class Element final : public NodeObject<IXMLDOMElement> {
   using NodeObject::NodeObject;
   long setAttributeNode(IXMLDOMAttribute* attribute, IXMLDOMAttribute** old) override {
     SIVANE_REFUSABLE(false);
-    const auto same = std::find_if(attributes.begin(), attributes.end(), [attribute](auto const& present) {
+    auto const same = std::find_if(attributes.begin(), attributes.end(), [attribute](auto const& present) {
       return node_of(present.get()).name == node_of(attribute).name;
     });
     if (same == attributes.end()) {
       attributes.emplace_back(attribute);
       return give<IXMLDOMAttribute>(nullptr, old);
     }
-    const CComPtr<IXMLDOMNode> replaced = std::exchange(*same, CComPtr<IXMLDOMNode>(attribute));
+    CComPtr<IXMLDOMNode> const replaced = std::exchange(*same, CComPtr<IXMLDOMNode>(attribute));
     return give(dynamic_cast<IXMLDOMAttribute*>(replaced.get()), old);
   }
 };
@@ -184,7 +184,7 @@ class Document final : public NodeObject<IXMLDOMDocument> {
 std::string printable(std::u16string const& text) {
   constexpr char digits[] = "0123456789abcdef";
   std::string printed;
-  for (const char16_t unit : text) {
+  for (char16_t const unit : text) {
     if (unit >= ' ' && unit <= '~' && unit != '\\') {
       printed += static_cast<char>(unit);
     } else {
@@ -243,7 +243,7 @@ void take_child(IXMLDOMNode* node, std::size_t index) {
 
 std::string take_attribute(IXMLDOMNode* node, std::size_t index) {
   auto& all = node_of(node).attributes;
-  const CComPtr<IXMLDOMNode> taken = all.at(index);
+  CComPtr<IXMLDOMNode> const taken = all.at(index);
   all.erase(all.begin() + static_cast<std::ptrdiff_t>(index));
   return name_of(taken.get());
 }

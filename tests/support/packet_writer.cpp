@@ -16,7 +16,7 @@ constexpr std::size_t payload_size = packet_size - header_size;
 unsigned char low_byte(int value) { return static_cast<unsigned char>(value & 0xFF); }
 
 Bytes slice(Bytes const& bytes, std::size_t from, std::size_t count) {
-  const std::size_t end = std::min(bytes.size(), from + count);
+  std::size_t const end = std::min(bytes.size(), from + count);
   return {bytes.begin() + static_cast<std::ptrdiff_t>(from),
           bytes.begin() + static_cast<std::ptrdiff_t>(end)};
 }
@@ -52,13 +52,13 @@ void PacketWriter::dense_sections(int pid, std::vector<Bytes> const& sections) {
   }
   for (std::size_t done = 0; done < all.size();) {
     // A packet in which a section starts has one byte less for them: its pointer_field.
-    const auto next = std::lower_bound(starts.begin(), starts.end(), done);
-    const bool has_start = next != starts.end() && *next - done < payload_size - 1;
+    auto const next = std::lower_bound(starts.begin(), starts.end(), done);
+    bool const has_start = next != starts.end() && *next - done < payload_size - 1;
     // One byte too late for this packet, which an adaptation field of that byte then makes shorter.
-    const bool starts_too_late = next != starts.end() && *next - done == payload_size - 1;
+    bool const starts_too_late = next != starts.end() && *next - done == payload_size - 1;
     Packet next_packet{.pid = pid, .start = has_start, .adaptation = starts_too_late ? 0 : -1};
     if (has_start) next_packet.payload.push_back(low_byte(static_cast<int>(*next - done)));
-    const std::size_t room = payload_size - next_packet.payload.size() - (starts_too_late ? 1 : 0);
+    std::size_t const room = payload_size - next_packet.payload.size() - (starts_too_late ? 1 : 0);
     // Bytes behind the last section are stuffing; a section in front of a start that is too far fills its
     // packet.
     next_packet.payload = std::move(next_packet.payload) + slice(all, done, room);

@@ -26,7 +26,7 @@ int nibble(char c) {
 }
 
 Bytes make_start(int table_id, int syntax_indicator, int reserved, int length) {
-  const int future_use =
+  int const future_use =
       table_id < 0x40 ? 0 : 1;  // a zero bit in the tables of MPEG, a reserved one in those of DVB
   Bytes bytes{low_byte(table_id)};
   append_16(bytes, syntax_indicator << 15 | future_use << 14 | reserved << 12 | (length & 0xFFF));
@@ -38,7 +38,7 @@ Bytes make_start(int table_id, int syntax_indicator, int reserved, int length) {
 Bytes hex(std::string_view text) {
   Bytes bytes;
   int high = -1;
-  for (const char c : text) {
+  for (char const c : text) {
     if (std::isspace(static_cast<unsigned char>(c)) != 0) continue;
     if (high < 0) {
       high = nibble(c);
@@ -58,9 +58,9 @@ Bytes operator+(Bytes left, Bytes const& right) {
 
 std::uint32_t slow_crc(Bytes const& bytes) {
   std::uint32_t crc = 0xFFFFFFFF;
-  for (const unsigned char byte : bytes) {
+  for (unsigned char const byte : bytes) {
     for (int bit = 7; bit >= 0; --bit) {
-      const bool carry = (crc >> 31) != (byte >> bit & 1u);
+      bool const carry = (crc >> 31) != (byte >> bit & 1u);
       crc = carry ? crc << 1 ^ 0x04C11DB7u : crc << 1;
     }
   }
@@ -69,14 +69,14 @@ std::uint32_t slow_crc(Bytes const& bytes) {
 
 void repair_crc(Bytes& section) {
   if (section.size() < crc_size) throw std::invalid_argument("no room for a CRC");
-  const auto stored = section.end() - static_cast<std::ptrdiff_t>(crc_size);
-  const std::uint32_t crc = slow_crc({section.begin(), stored});
+  auto const stored = section.end() - static_cast<std::ptrdiff_t>(crc_size);
+  std::uint32_t const crc = slow_crc({section.begin(), stored});
   for (int i = 0; i < 4; ++i) stored[i] = static_cast<unsigned char>(crc >> (24 - 8 * i));
 }
 
 Bytes make_section(LongSection const& h, Bytes const& body) {
-  const int fitting = static_cast<int>(5 + body.size() + crc_size);
-  const int length = h.length_override >= 0 ? h.length_override : fitting;
+  int const fitting = static_cast<int>(5 + body.size() + crc_size);
+  int const length = h.length_override >= 0 ? h.length_override : fitting;
   Bytes section = make_start(h.table_id, h.syntax_indicator, h.reserved_header, length);
   append_16(section, h.context_id);
   section.push_back(low_byte(0xC0 | h.version_number << 1 | h.current_next_indicator));

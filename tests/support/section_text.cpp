@@ -30,7 +30,7 @@ class Assembler {
 
   char next() {
     if (rest_.empty()) return end_of_text;
-    const char c = rest_.front();
+    char const c = rest_.front();
     rest_.remove_prefix(1);
     return c;
   }
@@ -45,7 +45,7 @@ class Assembler {
     if (c == '"') return read_characters();
     if (c == '[') return read_counted(']', 1, 0);
     if (c == 'c' && rest_.starts_with("rc")) return leave_room_for_crc();
-    const char second = next();
+    char const second = next();
     if (second == '(') return read_counted(')', 2, hex(std::string{'0', c})[0]);
     bytes_ = std::move(bytes_) + hex(std::string{c, second});  // which throws for what is no digit
   }
@@ -66,11 +66,11 @@ class Assembler {
   }
 
   void read_counted(char closed_by, std::size_t size_of_count, int top_digit) {
-    const int added = read_number();
-    const std::size_t first = bytes_.size();
+    int const added = read_number();
+    std::size_t const first = bytes_.size();
     bytes_.resize(first + size_of_count);
     read_until(closed_by);
-    const int count = static_cast<int>(bytes_.size() - first - size_of_count) + added;
+    int const count = static_cast<int>(bytes_.size() - first - size_of_count) + added;
     if (count < 0 || count > (size_of_count == 1 ? 0xFF : 0xFFF)) throw std::invalid_argument("a count");
     bytes_[first] = static_cast<unsigned char>(top_digit << 4 | count >> 8);
     bytes_[first + size_of_count - 1] = static_cast<unsigned char>(count & 0xFF);

@@ -71,7 +71,7 @@ std::string held(Table const& table) {
   if constexpr (requires { table.status_infos; }) add_entries(text, table.status_infos);
   if constexpr (requires { table.application_infos; }) add_entries(text, table.application_infos);
   if constexpr (requires { table.data; }) {
-    for (const unsigned char byte : table.data) add(text, two_digits(byte));
+    for (unsigned char const byte : table.data) add(text, two_digits(byte));
   }
   return text;
 }
@@ -101,7 +101,7 @@ std::vector<Step> steps_of(Block const& block) {
   std::vector<Step> steps;
   std::string last;
   for (auto const& [text, number] : block.lines) {
-    const std::string keyword = text.substr(0, text.find(' '));
+    std::string const keyword = text.substr(0, text.find(' '));
     if (is_action(keyword) && keyword != last) steps.push_back({{}, number});
     last = keyword;
     std::string& lines = steps.at(steps.size() - 1).lines[keyword];
@@ -111,7 +111,7 @@ std::vector<Step> steps_of(Block const& block) {
 }
 
 Bytes section_of(Step const& step) {
-  const auto at = step.lines.contains("hex") ? step.lines.find("hex") : step.lines.find("more");
+  auto const at = step.lines.contains("hex") ? step.lines.find("hex") : step.lines.find("more");
   return at == step.lines.end() ? Bytes() : assemble(at->second);
 }
 
@@ -129,10 +129,10 @@ template <class Table>
 void act(Table& table, Step const& step) {
   if (step.lines.contains("reset")) return reset(table);
   if (step.lines.contains("hex")) table = Table();
-  const HeapBlock section(section_of(step));
-  const bool was_valid = table.valid;
-  const auto failure = step.lines.find("throws");
-  const bool fails = failure != step.lines.end();
+  HeapBlock const section(section_of(step));
+  bool const was_valid = table.valid;
+  auto const failure = step.lines.find("throws");
+  bool const fails = failure != step.lines.end();
   EXPECT_EQ(thrown([&] { table.Parse(section.data()); }) + '\n', fails ? failure->second : "\n");
   EXPECT_EQ(table.valid, !fails || was_valid);
 }
@@ -140,10 +140,10 @@ void act(Table& table, Step const& step) {
 template <class Table>
 void expect_outcome(Table const& table, Step const& step) {
   std::ostringstream os;
-  const std::string dump = dumped(table, os);
-  const std::string tags = held(table);
-  const bool is_decimal = (os.flags() & std::ios::dec) != 0;
-  const std::map<std::string, std::string> outcome = {
+  std::string const dump = dumped(table, os);
+  std::string const tags = held(table);
+  bool const is_decimal = (os.flags() & std::ios::dec) != 0;
+  std::map<std::string, std::string> const outcome = {
       {"dump", dump}, {"holds", tags.empty() ? "" : tags + '\n'}, {"base", is_decimal ? "dec\n" : "hex\n"}};
   for (auto const& [keyword, lines] : step.lines) {
     if (is_action(keyword) || keyword == "throws") continue;
@@ -168,7 +168,7 @@ Bytes rich_section(std::string const& file) {
   Bytes longest;
   for (Block const& block : read_blocks(file)) {
     for (Step const& step : steps_of(block)) {
-      const Bytes section = section_of(step);
+      Bytes const section = section_of(step);
       if (!step.lines.contains("throws") && section.size() > longest.size()) longest = section;
     }
   }
@@ -185,23 +185,23 @@ std::size_t claimed_size(Bytes const& section) { return 3u + (section[1] & 0xFu)
 /// Parses a damaged section with its checksum put right; one that claims more than there is must say so.
 template <class Table>
 void parse_damaged(Bytes bytes, Tally& tally) {
-  const bool fits = claimed_size(bytes) <= bytes.size();
+  bool const fits = claimed_size(bytes) <= bytes.size();
   if (fits) bytes.resize(claimed_size(bytes));
   if (fits && is_long<Table> && bytes.size() >= 4) repair_crc(bytes);
-  const HeapBlock section(bytes);
+  HeapBlock const section(bytes);
   Table table;
-  const std::string failure = thrown([&] { table.Parse(section.data(), bytes.size()); });
+  std::string const failure = thrown([&] { table.Parse(section.data(), bytes.size()); });
   EXPECT_TRUE(fits || failure == "no_errorcode too little data") << failure;
   EXPECT_EQ(table.valid, failure.empty());
   ++(failure.empty() ? tally.parsed : tally.thrown);
-  const Table copy = table;
+  Table const copy = table;
   std::ostringstream os, os_of_copy;
   EXPECT_EQ(dumped(copy, os_of_copy), dumped(table, os));
 }
 
 template <class Table>
 void damage(std::string const& file) {
-  const Bytes whole = rich_section(file);
+  Bytes const whole = rich_section(file);
   Tally corrupted, cut;
   for (std::size_t at = 0; at < whole.size(); ++at) {
     for (unsigned int change = 1; change <= 0xFF; ++change) {

@@ -18,7 +18,7 @@ Pat parsed(Bytes const& section) {
 }
 
 TEST(Pat, ReadsItsProgramsInOrderAndDumpsThemLineForLine) {
-  const Bytes section = make_pat({{0, 0x10}, {0xABCD, 0x1FFF}, {1, 0}},
+  Bytes const section = make_pat({{0, 0x10}, {0xABCD, 0x1FFF}, {1, 0}},
                                  {.context_id = 0x1234, .version_number = 3, .last_section_number = 0x1B});
   EXPECT_EQ(Bytes(section.begin(), section.begin() + 3), hex("00 B0 15"));
   Pat pat = parsed(section);
@@ -43,9 +43,9 @@ TEST(Pat, EverySectionLength) {
     section[1] = 0xB0;
     section[2] = static_cast<unsigned char>(length);
     if (length >= 4) repair_crc(section);
-    const HeapBlock block(section);
+    HeapBlock const block(section);
     Pat pat;
-    const auto parse = [&] { pat.Parse(block.data()); };
+    auto const parse = [&] { pat.Parse(block.data()); };
     if (length < 4) {  // no section so short has a right CRC
       EXPECT_TRUE(throws(parse, "crc error")) << length;
     } else if (length == 4) {  // byte 7 of the header is missing
@@ -67,13 +67,13 @@ TEST(Pat, RefusesOtherTables) {
 
 TEST(Pat, ParseAddsUntilReset) {
   Pat pat = parsed(make_pat({{1, 0x100}}));
-  const HeapBlock more(make_pat({{2, 0x200}, {3, 0x300}}, {.version_number = 4}));
-  const auto size = static_cast<std::size_t>(more.size());
+  HeapBlock const more(make_pat({{2, 0x200}, {3, 0x300}}, {.version_number = 4}));
+  auto const size = static_cast<std::size_t>(more.size());
   pat.Parse(more.data(), size);
   EXPECT_TRUE(throws([&] { pat.Parse(more.data(), size - 1); }, "too little data"));
   EXPECT_EQ(pat.get_program_info_size(), 3u);
   EXPECT_TRUE(pat.valid);
-  const Pat copy = pat;
+  Pat const copy = pat;
   pat.reset();
   EXPECT_EQ(pat.get_program_info_size(), 0u);
   EXPECT_EQ(copy.get_program_info_size(), 3u);

@@ -67,7 +67,7 @@ struct LongProbe final : Probe<PsiTableBase> {
   }
 };
 
-const Bytes long_sample = make_section({.table_id = 0x42,
+Bytes const long_sample = make_section({.table_id = 0x42,
                                         .context_id = 0xABCD,
                                         .version_number = 0x15,
                                         .current_next_indicator = 0,
@@ -75,17 +75,17 @@ const Bytes long_sample = make_section({.table_id = 0x42,
                                         .last_section_number = 2,
                                         .reserved_header = 2},
                                        {0x11, 0x22});
-const std::vector<std::int64_t> long_sample_header = {
+std::vector<std::int64_t> const long_sample_header = {
     0xABCD, 0x15, 3, 2, 0, slow_crc({long_sample.begin(), long_sample.end() - 4})};
-const Bytes short_sample{0x70, 0, 5, 1, 2, 3, 4, 5};
+Bytes const short_sample{0x70, 0, 5, 1, 2, 3, 4, 5};
 
 /// Parses, and expects a failure whose `value` holds the address of the byte `value_at`, or -1 for none.
 template <class Frame>
 void expect_failure(Probe<Frame>& probe, Bytes const& bytes, char const* text, int value_at) {
-  const HeapBlock section(bytes);
-  const auto failure = caught_error([&] { probe.Parse(section.data()); });
+  HeapBlock const section(bytes);
+  auto const failure = caught_error([&] { probe.Parse(section.data()); });
   ASSERT_TRUE(failure);
-  const auto address = reinterpret_cast<std::uintptr_t>(section.data() + value_at);
+  auto const address = reinterpret_cast<std::uintptr_t>(section.data() + value_at);
   EXPECT_EQ(failure->value, value_at < 0 ? 0xFFFFFFFF : static_cast<unsigned int>(address));
   EXPECT_EQ(failure->code, value_at < 0 ? error::no_errorcode : error::syntax_error);
   EXPECT_STREQ(failure->what(), text);
@@ -97,10 +97,10 @@ void check_available(Bytes const& whole) {
   for (std::size_t available = 0; available <= whole.size() + 9; ++available) {
     Bytes bytes = whole + Bytes(9);
     bytes.resize(available);
-    const HeapBlock block(bytes);
+    HeapBlock const block(bytes);
     Table probe;
-    const auto parse = [&] { probe.Parse(block.data(), available); };
-    const bool fits = available >= whole.size();
+    auto const parse = [&] { probe.Parse(block.data(), available); };
+    bool const fits = available >= whole.size();
     EXPECT_EQ(fits, !caught_error(parse)) << available;
     EXPECT_EQ(probe.valid, fits);
     EXPECT_EQ(probe.section_length != 0, fits);
@@ -114,7 +114,7 @@ TEST(Sections, FitInWhatIsAvailableOrFailUntouched) {
 }
 
 TEST(LongSection, ReadsItsHeaderUntilReset) {
-  const HeapBlock section(long_sample);
+  HeapBlock const section(long_sample);
   LongProbe probe;
   EXPECT_FALSE(probe.valid);
   probe.Parse(section.data());
@@ -137,7 +137,7 @@ TEST(LongSection, ChecksInOrderAndKeepsWhatWasReadBefore) {
     char const *refused, *text;
     int value_at, table_id, syntax_indicator;
   };
-  const Fault faults[] = {{"all: syntax reserved id body", "crc error", -1, -7, 0},
+  Fault const faults[] = {{"all: syntax reserved id body", "crc error", -1, -7, 0},
                           {"syntax reserved id body", "", 0, -7, 0},
                           {"syntax reserved id body", "", 1, -7, 1},
                           {"reserved id body", "", 1, -7, 1},
@@ -177,14 +177,14 @@ TEST(LongSection, DumpsHeaderDescriptorsAndBodyAndLeavesTheStreamSo) {
             "table_id 0A\nsection_length 0BCD\ncontext_id 0BCD\nversion_number 0A\nsection_number 01\n"
             "last_section_number A\ncurrent_next_indicator 01\ncrc32 00123ABC\n" +
                 descriptor.str() + "AB\n");
-  const auto kept = std::ios::hex | std::ios::right | std::ios::unitbuf | std::ios::uppercase;
+  auto const kept = std::ios::hex | std::ios::right | std::ios::unitbuf | std::ios::uppercase;
   EXPECT_EQ(os.flags() & (kept | std::ios::basefield | std::ios::adjustfield), kept);
   EXPECT_EQ(os.fill(), '0');
 }
 
 TEST(ShortSection, ReadsItsHeaderWhateverTheOtherBits) {
   for (int bits = 0; bits < 0x100; bits += 0x10) {  // the upper half of byte 1
-    const HeapBlock section(Bytes{0x70, static_cast<unsigned char>(bits | 1), 0x02} + Bytes(0x102, 0xAA));
+    HeapBlock const section(Bytes{0x70, static_cast<unsigned char>(bits | 1), 0x02} + Bytes(0x102, 0xAA));
     ShortProbe probe;
     probe.Parse(section.data());
     EXPECT_TRUE(probe.valid);

@@ -49,8 +49,8 @@ void expect_identity(std::string const& section, std::set<int> const& ids, bool 
         << id;
     EXPECT_EQ(table.get_table_id_text(), text(id));
   }
-  for (const int indicator : {0, 1}) {
-    const bool taken = takes_either_indicator || indicator == (is_long ? 1 : 0);
+  for (int const indicator : {0, 1}) {
+    bool const taken = takes_either_indicator || indicator == (is_long ? 1 : 0);
     if constexpr (is_long) {
       EXPECT_EQ(Table().is_valid_syntax_indicator(indicator), taken);
     } else {
@@ -89,9 +89,9 @@ TEST(TableClasses, TakeTheirIdsAndNameThem) {
   expect_identity<Ait>("74 B( 0001 C1 00 00 F() F() crc )", ids(0, 0xFF), true, text_of({}, "ait"));
   expect_identity<DsmCC>("3B B( 0001 C1 00 00 crc )", {0x3B, 0x3C}, true, text_of({}, "DSMCC"));
 
-  const auto event_text = [](int id) -> std::string {
+  auto const event_text = [](int id) -> std::string {
     if (id < 0x4E || id > 0x6F) return "<unknown>";
-    const bool is_actual = id == 0x4E || (id >= 0x50 && id <= 0x5F);
+    bool const is_actual = id == 0x4E || (id >= 0x50 && id <= 0x5F);
     return std::string("event_information_section - ") + (is_actual ? "actual" : "other") +
            "_transport_stream, " + (id <= 0x4F ? "present/following" : "schedule");
   };
@@ -112,15 +112,15 @@ TEST(TableClasses, HeadersByOtherNames) {
     EXPECT_EQ(ait.get_application_type_text(), text);
   }
   EXPECT_EQ(parsed<DsmCC>("3B B( 8001 C1 00 00 crc )").get_table_extension(), 0x8001);
-  const Bat bat = parsed<Bat>("4A B( 0001 C1 00 00 F() F( 0001 0002 F() 0003 0004 F() ) crc )");
+  Bat const bat = parsed<Bat>("4A B( 0001 C1 00 00 F() F( 0001 0002 F() 0003 0004 F() ) crc )");
   EXPECT_EQ(&bat.get_stream_infos(), &bat.stream_infos);
 }
 
 /// What an entry at a bare pointer says that it took with `size` bytes said to be left, or throws.
 template <class Entry>
 std::string taken(std::string const& bytes, int size) {
-  const HeapBlock block(assemble(bytes));
-  const std::string failure = thrown([&] {
+  HeapBlock const block(assemble(bytes));
+  std::string const failure = thrown([&] {
     if constexpr (std::is_constructible_v<Entry, unsigned char*, int, int&>) {
       Entry(block.data(), size, size);
     } else if constexpr (std::is_constructible_v<Entry, _PMT_INFO*, int&>) {
@@ -139,7 +139,7 @@ struct Taken {
   char const* expected;
 };
 
-const Taken entries[] = {
+Taken const entries[] = {
     {taken<PmtStreamInfo>, "02 E101 F( 52[ 07 ] )", 5, "8"},
     {taken<PmtStreamInfo>, "02 E101 F()", 99, "5"},
     {taken<PmtStreamInfo>, "02 E101 F()", 4, "no_errorcode too little data"},
@@ -168,13 +168,13 @@ TEST(Entries, TellTheirSizeAndFailAsTheirTablesDo) {
 
 TEST(Entries, DumpInTheStreamsFill) {
   int size = 99;
-  const HeapBlock stream(assemble("0B E100 F( 52[ 0F ] )"));
-  const PmtStreamInfo info(reinterpret_cast<_PMT_INFO*>(stream.data()), size);
+  HeapBlock const stream(assemble("0B E100 F( 52[ 0F ] )"));
+  PmtStreamInfo const info(reinterpret_cast<_PMT_INFO*>(stream.data()), size);
   EXPECT_EQ(info.es_info_length, 3);
   EXPECT_EQ(dumped(info),
             "stream_type:  b\nelementary_PID:  100\n"
             "descriptor_tag: 52 stream_identifier_descriptor\ncomponent_tag: f\n");
-  const HeapBlock event(assemble("00AB C079124500 014530 9( 4F[ 0001 0002 ] 15[ 0102030405 ] )"));
+  HeapBlock const event(assemble("00AB C079124500 014530 9( 4F[ 0001 0002 ] 15[ 0102030405 ] )"));
   EXPECT_EQ(dumped(Eit::EventInfo(event.data(), size)),
             "event_id:   ab\nrunning_status: 4\nfree_CA_mode: 1\ndescriptors_length: d\n"
             "start_time: 13/10-1993 12:45:0\nduration: 1:45:30\n");
@@ -205,10 +205,10 @@ TEST(Pmt, PrintsTheHostsDescriptorsUntilReset) {
   Pmt pmt = parsed<Pmt>(protected_program);
   pmt.descriptors.push_back(std::make_shared<DescriptorGeneral const>(0x3E, nullptr, 0));
   pmt.stream_infos[0].descriptors.push_back(std::make_shared<DescriptorGeneral const>(0x3F, nullptr, 0));
-  const Pmt copy = pmt;
+  Pmt const copy = pmt;
   pmt.reset();
   EXPECT_TRUE(pmt.descriptors.empty());
-  const std::string dump = dumped(copy);
+  std::string const dump = dumped(copy);
   EXPECT_NE(dump.find("15 Reserved\ndata:\ndescriptor_tag: 3E Reserved\ndata:\ndescriptor_tag: 0A "),
             dump.npos);
   EXPECT_NE(dump.find("15 Reserved\ndata:\ndescriptor_tag: 3F Reserved\ndata:\ndescriptor_tag: 56 "),
@@ -222,10 +222,10 @@ TEST(Pmt, CountsItsStreamsInHexadecimal) {
 }
 
 TEST(Pmt, PutsBackFlagsAndWidthAndNotTheFill) {
-  const Pmt pmt = parsed<Pmt>(protected_program);
+  Pmt const pmt = parsed<Pmt>(protected_program);
   std::ostringstream os;
   os << std::left << std::dec << std::setfill('*') << std::setw(5);
-  const auto flags = os.flags();
+  auto const flags = os.flags();
   pmt._dump_state(os);
   EXPECT_EQ(os.flags(), flags);
   EXPECT_EQ(os.width(), 5);

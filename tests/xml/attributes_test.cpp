@@ -105,7 +105,7 @@ TEST(Attributes, ComeBackInEveryForm) {
 
   unsigned char buffer[16], back[16] = {};
   for (int i = 0; i < 16; ++i) buffer[i] = static_cast<unsigned char>(i * 17);
-  const std::u16string digits = saved(buffer, 16);
+  std::u16string const digits = saved(buffer, 16);
   EXPECT_EQ(digits, u"00112233445566778899aabbccddeeff");
   EXPECT_EQ(saved(buffer, -1), u"");
   Fixture fixture;
@@ -131,7 +131,7 @@ TEST(Attributes, EveryByteComesBack) {
 TEST(Attributes, OtherCodePointsAreThoseOfWindows1252OrAQuestionMark) {
   EXPECT_EQ(loaded<std::string>(u"\u20AC\u0178\u0081\u0160"), "\x80\x9F\x81\x8A");
   EXPECT_EQ(loaded<std::string>(u"\u0100\U0001F600\uFFFD."), "???.");
-  const char16_t halves[] = {0xD83D, u'x', 0xDE00, 0xD83D, 0};
+  char16_t const halves[] = {0xD83D, u'x', 0xDE00, 0xD83D, 0};
   EXPECT_EQ(loaded<std::string>(halves), "?x??");
 }
 
@@ -142,7 +142,7 @@ TEST(Attributes, NumbersAreReadAsFarAsTheyGo) {
     unsigned long unsigned_number;
     unsigned char byte;
   };
-  const Row rows[] = {
+  Row const rows[] = {
       {u"", 0, 0, 0},
       {u"abc", 0, 0, 0},
       {u"0x10", 0, 0, 0},
@@ -172,9 +172,9 @@ TEST(Attributes, NumbersAreReadAsFarAsTheyGo) {
 }
 
 TEST(Attributes, DoublesOfAnyText) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  const std::u16string zeros(400, u'0');
-  const std::pair<std::u16string, double> rows[] = {
+  double const infinity = std::numeric_limits<double>::infinity();
+  std::u16string const zeros(400, u'0');
+  std::pair<std::u16string, double> const rows[] = {
       {u"", 0},
       {u"e5", 0},
       {u" +1.5e2x", 150},
@@ -262,8 +262,8 @@ TEST(Attributes, ADomMayGiveItsOwnTypes) {
 }
 
 TEST(AddAttribute, RefusedOperationsLeaveNoAttributeAndNoReference) {
-  const unsigned char byte = 1;
-  const std::function<long(Fixture&)> forms[] = {
+  unsigned char const byte = 1;
+  std::function<long(Fixture&)> const forms[] = {
       [](Fixture& f) { return f.add(1); },
       [](Fixture& f) { return f.add(1UL); },
       [](Fixture& f) { return f.add(1U); },
@@ -280,10 +280,10 @@ TEST(AddAttribute, RefusedOperationsLeaveNoAttributeAndNoReference) {
       [](Fixture& f) { return f.add(tagVARIANT(1)); },
   };
   for (auto const& add : forms) {
-    for (const auto refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
+    for (auto const refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
       Fixture fixture;
       // setAttributeNode, the third, gives no object anyway.
-      const int refused = refusal == MemoryDom::Refusal::result ? 3 : 2;
+      int const refused = refusal == MemoryDom::Refusal::result ? 3 : 2;
       for (int n = 1; n <= refused; ++n) {
         fixture.dom.refuse(n, refusal);
         EXPECT_EQ(add(fixture), E_FAIL) << n;
@@ -312,19 +312,19 @@ TEST(AddAttribute, ReplacesByName) {
 template <class T, class... Size>
 void expect_untouched_by_failures(T& value, Size... size) {
   using Copy = std::conditional_t<std::is_pointer_v<T>, std::string, T>;
-  const auto copy = [&] {
+  auto const copy = [&] {
     if constexpr (std::is_pointer_v<T>) {
       return Copy(reinterpret_cast<char const*>(value), 4);
     } else {
       return Copy(value);
     }
   };
-  const Copy before = copy();
+  Copy const before = copy();
   Fixture fixture;
   EXPECT_EQ(fixture.get(value, size...), E_FAIL);
   fixture.add(tagVARIANT(std::u16string(u"00000007")));
-  const auto map = fixture.map();
-  for (const auto refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
+  auto const map = fixture.map();
+  for (auto const refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
     for (int n = 1; n <= 2; ++n) {
       fixture.dom.refuse(n, refusal);
       EXPECT_EQ(GetAttributeValue(map.get(), u"a", value, size...), E_FAIL);
@@ -395,7 +395,7 @@ class CommaLocale {
 };
 
 TEST(Attributes, KnowNoLocale) {
-  const CommaLocale locale;
+  CommaLocale const locale;
   RecordProperty("decimal_point_of_C", std::localeconv()->decimal_point);
   expect_round_trip(1234567.5, u"1234567.5");
   expect_round_trip(1234567, u"1234567");

@@ -33,8 +33,8 @@ template <class Descriptor>
 void expect_survival(Descriptor const& descriptor) {
   dom::Document document, again;
   save(descriptor, document);
-  const std::string text = document.save_string();
-  const std::string file = ::testing::TempDir() + "sivane_descriptor.xml";
+  std::string const text = document.save_string();
+  std::string const file = ::testing::TempDir() + "sivane_descriptor.xml";
   document.save_file(file);
   Descriptor from_string, from_file;
   from_string.Parse(static_cast<void*>(dom::Document::load_string(text).root_node().get()));
@@ -47,7 +47,7 @@ void expect_survival(Descriptor const& descriptor) {
 
 template <class Descriptor>
 void check(Bytes const& bytes) {
-  const Descriptor descriptor(bytes.data());
+  Descriptor const descriptor(bytes.data());
   expect_round_trip(descriptor);
   expect_everything_is_needed(descriptor, false);
   expect_refusals_are_met(descriptor, false, std::is_same_v<Descriptor, DescriptorAitRoutingIPv6>);
@@ -82,7 +82,7 @@ int check_all(std::string const& name, Check (*check_of)(int)) {
   int checked = 0;
   for (Case const& one : read_cases("descriptors/cases/" + name + ".txt")) {
     const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    const Bytes bytes = assemble(one.bytes);
+    Bytes const bytes = assemble(one.bytes);
     check_of(bytes[0])(bytes);
     ++checked;
   }
@@ -99,15 +99,15 @@ TEST(DescriptorDocuments, HoldTheirPromises) {
 
 /// Loads the "descriptors" element of an owner out of a document.
 DescriptorSet loaded(std::string const& children) {
-  const auto document = dom::Document::load_string("<it><descriptors>" + children + "</descriptors></it>");
+  auto const document = dom::Document::load_string("<it><descriptors>" + children + "</descriptors></it>");
   DescriptorSet set;
   set._parse_descriptors(static_cast<void*>(document.root_node().get()));
   return set;
 }
 
 TEST(DescriptorLists, GoByTheNameOfTheElementAndSkipTheUnknown) {
-  const std::string head = " descriptor_id='137' descriptor_length='1' ";
-  const DescriptorSet set = loaded(
+  std::string const head = " descriptor_id='137' descriptor_length='1' ";
+  DescriptorSet const set = loaded(
       "<!-- a comment --><hierachy_descriptor/><general_descriptor" + head + "private_data='0a'/>text" +
       "<User_private_descriptor/><user_private_descriptor" + head + "private_data='0B'/>");
   ASSERT_EQ(set.get_general_descriptors().size(), 1u);
@@ -118,11 +118,11 @@ TEST(DescriptorLists, GoByTheNameOfTheElementAndSkipTheUnknown) {
 }
 
 TEST(DescriptorLists, LoadingAddsAndKeepsWhatCameBeforeAFailure) {
-  const auto document = dom::Document::load_string(
+  auto const document = dom::Document::load_string(
       "<it><descriptors><PDC_descriptor descriptor_id='105' descriptor_length='3' "
       "programme_identification_label='7'/><PDC_descriptor/></descriptors></it>");
   DescriptorSet set;
-  for (const std::size_t held : {1u, 2u}) {
+  for (std::size_t const held : {1u, 2u}) {
     EXPECT_TRUE(throws([&] { set._parse_descriptors(static_cast<void*>(document.root_node().get())); },
                        "failed to get descriptor_id"));
     EXPECT_EQ(set.get_PDC_descriptors().size(), held);

@@ -48,7 +48,7 @@ struct Place {
 
 inline CComPtr<IXMLDOMNode> node_at(Saved const& saved, Place const& place) {
   CComPtr<IXMLDOMNode> node(saved.element.get());
-  for (const std::size_t number : place.numbers) node = child_at(node.get(), number);
+  for (std::size_t const number : place.numbers) node = child_at(node.get(), number);
   return node;
 }
 
@@ -56,7 +56,7 @@ inline CComPtr<IXMLDOMNode> node_at(Saved const& saved, Place const& place) {
 inline void collect(IXMLDOMNode* node, Place const& place, std::vector<Place>& places) {
   places.push_back(place);
   for (std::size_t i = 0; i < child_count(node); ++i) {
-    const CComPtr<IXMLDOMNode> child = child_at(node, i);
+    CComPtr<IXMLDOMNode> const child = child_at(node, i);
     Place below = place;
     below.names.push_back(name_of(child.get()));
     below.numbers.push_back(i);
@@ -65,7 +65,7 @@ inline void collect(IXMLDOMNode* node, Place const& place, std::vector<Place>& p
 }
 
 inline std::string name_at(Place const& place, std::size_t levels_up) {
-  const std::size_t depth = place.names.size();
+  std::size_t const depth = place.names.size();
   return depth > levels_up ? place.names[depth - 1 - levels_up] : "";
 }
 
@@ -74,16 +74,16 @@ inline bool is_list(IXMLDOMNode* node) { return attribute_count(node) == 0; }
 /// What loading throws without an attribute, by where it stood.
 inline std::string failure_without_attribute(Place const& place, std::string const& attribute,
                                              bool is_table) {
-  const std::string names_itself = "failed to get " + attribute;
+  std::string const names_itself = "failed to get " + attribute;
   constexpr char const* header[] = {
       "table_id",       "syntax_indicator",    "section_length",         "context_id", "version_number",
       "section_number", "last_section_number", "current_next_indicator", "crc32"};
-  const bool is_head = attribute == "descriptor_id" || attribute == "descriptor_length";
+  bool const is_head = attribute == "descriptor_id" || attribute == "descriptor_length";
   if (is_head) return names_itself;
   if (name_at(place, 1) == "program_infos") {
     return attribute == "sid" ? "failed to get sid attribute" : "failed to get pid node";
   }
-  const bool is_of_header = std::find(std::begin(header), std::end(header), attribute) != std::end(header);
+  bool const is_of_header = std::find(std::begin(header), std::end(header), attribute) != std::end(header);
   return is_table && place.names.empty() && is_of_header ? names_itself : "failed";
 }
 
@@ -100,7 +100,7 @@ std::string failure_of_changed(Object const& object, Change change) {
   saved.save(object);
   change(saved);
   Object loaded;
-  const auto failure = caught_error([&] { saved.load(loaded); });
+  auto const failure = caught_error([&] { saved.load(loaded); });
   return failure ? failure->what() : "";
 }
 
@@ -113,26 +113,26 @@ void expect_everything_is_needed(Object const& object, bool is_table) {
   std::vector<Place> places;
   collect(whole.element.get(), {}, places);
   for (Place const& place : places) {
-    const CComPtr<IXMLDOMNode> node = node_at(whole, place);
+    CComPtr<IXMLDOMNode> const node = node_at(whole, place);
     for (std::size_t i = 0; i < attribute_count(node.get()); ++i) {
       std::string name;
-      const std::string failure = failure_of_changed(
+      std::string const failure = failure_of_changed(
           object, [&](Saved const& saved) { name = take_attribute(node_at(saved, place).get(), i); });
       EXPECT_EQ(failure, failure_without_attribute(place, name, is_table))
           << name_at(place, 0) << ' ' << name;
     }
     for (std::size_t i = 0; i < child_count(node.get()); ++i) {
-      const std::string name = name_of(child_at(node.get(), i).get());
-      const std::string failure =
+      std::string const name = name_of(child_at(node.get(), i).get());
+      std::string const failure =
           failure_of_changed(object, [&](Saved const& saved) { take_child(node_at(saved, place).get(), i); });
       EXPECT_EQ(failure, is_list(node.get()) ? "" : failure_without_child(place, name, is_table)) << name;
     }
     if (!is_list(node.get())) continue;
-    const std::string failure = failure_of_changed(object, [&](Saved& saved) {
+    std::string const failure = failure_of_changed(object, [&](Saved& saved) {
       node_at(saved, place)->appendChild(saved.dom.comment().get(), nullptr);
     });
-    const bool skips = name_at(place, 0) == "descriptors";
-    const bool has_own_words = name_at(place, 0) == "program_infos";
+    bool const skips = name_at(place, 0) == "descriptors";
+    bool const has_own_words = name_at(place, 0) == "program_infos";
     EXPECT_EQ(failure, skips ? "" : has_own_words ? "failed to get attribute map" : "failed") << "a comment";
   }
 }
@@ -143,7 +143,7 @@ inline std::string without_descriptors(std::string const& tree) {
   std::string kept;
   std::size_t left_out = std::string::npos;
   for (std::string line; std::getline(lines, line);) {
-    const std::size_t indent = line.find_first_not_of(' ');
+    std::size_t const indent = line.find_first_not_of(' ');
     if (left_out != std::string::npos && indent > left_out) continue;
     left_out = line.substr(indent) == "descriptors" ? indent : std::string::npos;
     if (left_out == std::string::npos) kept += line + '\n';
@@ -159,29 +159,29 @@ void expect_refusals_are_met(Object const& object, bool is_table, bool save_may_
   Saved whole;
   whole.dom.refuse(0);
   whole.save(object);
-  const std::string text = whole.text();
-  const int operations = whole.dom.operations();
+  std::string const text = whole.text();
+  int const operations = whole.dom.operations();
   for (int nth = 1; nth <= operations; ++nth) {
     Saved saved;
     saved.dom.refuse(nth);
     bool answer = false;
-    const auto failure = caught_error([&] { answer = saved.save(object); });
+    auto const failure = caught_error([&] { answer = saved.save(object); });
     EXPECT_FALSE(failure && !save_may_throw) << failure->what();
     EXPECT_FALSE(answer && saved.text() == text) << "operation " << nth;
     EXPECT_FALSE(answer && is_table && without_descriptors(saved.text()) != without_descriptors(text))
         << "operation " << nth;
     EXPECT_EQ(saved.dom.objects(), 1 + objects_below(saved.element.get())) << "operation " << nth;
   }
-  const int objects = whole.dom.objects();
+  int const objects = whole.dom.objects();
   whole.dom.refuse(0);
   Object complete;
   whole.load(complete);
-  const int steps = whole.dom.operations();
+  int const steps = whole.dom.operations();
   for (int nth = 1; nth <= steps; ++nth) {
-    for (const auto refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
+    for (auto const refusal : {MemoryDom::Refusal::result, MemoryDom::Refusal::no_object}) {
       whole.dom.refuse(nth, refusal);
       Object loaded;
-      const auto failure = caught_error([&] { whole.load(loaded); });
+      auto const failure = caught_error([&] { whole.load(loaded); });
       EXPECT_TRUE(failure && std::string(failure->what()).rfind("failed", 0) == 0) << "operation " << nth;
       EXPECT_EQ(whole.dom.objects(), objects) << "operation " << nth;
     }

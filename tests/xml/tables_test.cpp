@@ -20,8 +20,8 @@ constexpr LongSection header_of(int table_id) {
 }
 
 std::string header_text(int table_id, Bytes const& section) {
-  const std::size_t size = section.size();
-  const auto crc = static_cast<std::int32_t>(section[size - 4] << 24 | section[size - 3] << 16 |
+  std::size_t const size = section.size();
+  auto const crc = static_cast<std::int32_t>(section[size - 4] << 24 | section[size - 3] << 16 |
                                              section[size - 2] << 8 | section[size - 1]);
   return "it table_id=\"" + std::to_string(table_id) + "\" syntax_indicator=\"1\" section_length=\"" +
          std::to_string(size - 3) +
@@ -38,7 +38,7 @@ void check(Bytes const& section, std::string const& expected, bool save_may_thro
   Saved saved;
   ASSERT_TRUE(saved.save(table));
   EXPECT_EQ(saved.text(), expected);
-  const Table loaded = expect_round_trip(table);
+  Table const loaded = expect_round_trip(table);
   EXPECT_TRUE(loaded.valid);
   EXPECT_EQ(dump_of(loaded), dump_of(table));
   expect_everything_is_needed(table, true);
@@ -48,7 +48,7 @@ void check(Bytes const& section, std::string const& expected, bool save_may_thro
 template <class Table>
 void check_long(int table_id, Bytes const& body, std::string const& behind_header,
                 bool save_may_throw = false) {
-  const Bytes section = make_section(header_of(table_id), body);
+  Bytes const section = make_section(header_of(table_id), body);
   check<Table>(section, header_text(table_id, section) + behind_header, save_may_throw);
 }
 
@@ -92,18 +92,18 @@ TEST(Documents, Pmt) {
 
 // The table's own descriptors of tag 9 have no place in documents.
 TEST(Documents, NitAndBat) {
-  const Bytes body =
+  Bytes const body =
       hex("F00A 40 02 4EFF 09 04 0001 E002  F019 8003 8004 F00D 43 0B 01172500 0192 81 02750003"
           "8005 8006 F000");
-  const std::string descriptors =
+  std::string const descriptors =
       "  descriptors\n"
       "    network_name_descriptor descriptor_id=\"64\" descriptor_length=\"2\" network_name=\"N\\ff\"\n";
-  const std::string satellite =
+  std::string const satellite =
       "        satellite_delivery_system_descriptor descriptor_id=\"67\" descriptor_length=\"11\" "
       "frequency=\"11.725\" orbital_position=\"19.2\" west_east_flag=\"1\" polarization=\"0\" "
       "modulation=\"1\" "
       "symbol_rate=\"27.5\" FEC_inner=\"3\"\n";
-  const auto entries = [&satellite](std::string const& list, std::string const& entry) {
+  auto const entries = [&satellite](std::string const& list, std::string const& entry) {
     return "\n  " + list + "\n    " + entry +
            " stream_id=\"32771\" network_id=\"32772\"\n      descriptors\n" + satellite + "    " + entry +
            " stream_id=\"32773\" network_id=\"32774\"\n      descriptors\n";
@@ -161,7 +161,7 @@ TEST(Documents, TdtTotAndRst) {
 }
 
 TEST(Documents, AitWithADescriptorOfEveryKind) {
-  const std::pair<int, char const*> wire[] = {
+  std::pair<int, char const*> const wire[] = {
       {0x00, "0A 8001 82 83 84 0005 06 07 08 DF 85 41FF"},
       {0x01, "656E67 02 41E9 646575 00"},
       {0x02, "0001 82 80 8003 8004 8005 86"},
@@ -180,9 +180,9 @@ TEST(Documents, AitWithADescriptorOfEveryKind) {
       {0x80, "AB"}};
   Bytes common;
   for (auto const& [tag, body] : wire) common = common + make_descriptor(tag, hex(body));
-  const auto size = static_cast<unsigned char>(common.size());
-  const Bytes application = hex("80000001 8002 81 F003 80 01 CD");
-  const Bytes applications = Bytes{0xF0, static_cast<unsigned char>(application.size())} + application;
+  auto const size = static_cast<unsigned char>(common.size());
+  Bytes const application = hex("80000001 8002 81 F003 80 01 CD");
+  Bytes const applications = Bytes{0xF0, static_cast<unsigned char>(application.size())} + application;
   check_long<Ait>(0x74, Bytes{0xF0, size} + common + applications,
                   " common_descriptors_length=\"" + std::to_string(size) + R"(" application_loop_length="12"
   application_infos
@@ -242,7 +242,7 @@ TEST(Documents, AitWithADescriptorOfEveryKind) {
 }
 
 TEST(Documents, DsmCCAnswersFalseBehindItsHeader) {
-  const Bytes section = make_section(header_of(0x3B), hex("0102"));
+  Bytes const section = make_section(header_of(0x3B), hex("0102"));
   DsmCC table, loaded;
   table.Parse(section.data());
   Saved saved;
