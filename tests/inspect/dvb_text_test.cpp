@@ -2,12 +2,12 @@
 // Copyright (c) 2026 the sivane authors
 //
 // The texts that broadcasts are written in, and how many cells they take.
-#include "../../examples/inspect/dvb_text.h"
+#include "../../inspect/dvb_text.h"
 
 #include <gtest/gtest.h>
 
-#include "../../examples/inspect/conversion.h"
-#include "../../examples/inspect/terminal.h"
+#include "../../inspect/conversion.h"
+#include "../../inspect/terminal.h"
 #include "run_inspect.h"
 
 namespace sivane::testing {
