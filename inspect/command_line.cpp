@@ -3,6 +3,7 @@
 #include "command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 
 namespace inspect {
@@ -47,16 +48,17 @@ struct Arguments {
   std::string file;
 };
 
-using Kinds = std::vector<std::string>;
-Kinds const kinds_of_bytes = {"ts", "sections"};
-Kinds const all_kinds = {"ts", "sections", "xml"};
+std::vector<std::string> kinds_of(CommandRow const& row) {
+  std::vector<std::string> kinds;
+  for (Input const input : row.inputs) kinds.emplace_back(name_of(input));
+  return kinds;
+}
 
-CLI::App* add_command(CLI::App& app, char const* name, char const* description, Kinds const& kinds,
-                      Arguments& arguments) {
-  CLI::App* const command = app.add_subcommand(name, description);
+CLI::App* add_command(CLI::App& app, CommandRow const& row, Arguments& arguments) {
+  CLI::App* const command = app.add_subcommand(row.name, row.help);
   command->add_option("FILE", arguments.file, "What to read; - is standard input")->required()->type_name("");
   command->add_option("-i,--input", arguments.input, "What FILE holds: see below")
-      ->check(CLI::IsMember(kinds))
+      ->check(CLI::IsMember(kinds_of(row)))
       ->type_name("KIND")
       ->capture_default_str();
   command
@@ -67,13 +69,17 @@ CLI::App* add_command(CLI::App& app, char const* name, char const* description, 
   return command;
 }
 
-Options understand(Arguments const& arguments) {
+Input input_of(CommandRow const& row, std::string_view name) {
+  return *std::ranges::find(row.inputs, name, name_of);
+}
+
+Options understand(CommandRow const& row, Arguments const& arguments) {
   Options options;
+  options.command = &row;
   options.file = arguments.file;
-  if (arguments.input == "sections") options.input = Options::Input::sections;
-  if (arguments.input == "xml") options.input = Options::Input::xml;
+  options.input = input_of(row, arguments.input);
   for (std::string const& text : arguments.handles) options.handles.push_back(handle_of(text));
-  if (!options.handles.empty() && options.input != Options::Input::ts)
+  if (!options.handles.empty() && options.input != Input::ts)
     throw CLI::ValidationError("--handle", "only a transport stream has PIDs (--input ts)");
   return options;
 }
@@ -111,29 +117,12 @@ CommandLine read_command_line(int argc, char** argv) {
   app.footer(footer);
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   Arguments arguments;
-  using Show = Options::Show;
-  std::pair<CLI::App const*, Show> const commands[] = {
-      {add_command(app, "dump", "Print every section as text", all_kinds, arguments), Show::dump},
-      {add_command(app, "xml", "Save all sections as one XML document", all_kinds, arguments), Show::xml},
-      {add_command(app, "sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX",
-                   kinds_of_bytes, arguments),
-       Show::sections},
-      {add_command(app, "services", "List the services with their names, types and states", kinds_of_bytes,
-                   arguments),
-       Show::services},
-      {add_command(app, "events", "List the events with their times (UTC) and names", kinds_of_bytes,
-                   arguments),
-       Show::events},
-      {add_command(app, "networks", "List networks, bouquets and CA systems with their names", kinds_of_bytes,
-                   arguments),
-       Show::networks}};
+  std::vector<CLI::App const*> commands;
+  for (CommandRow const& row : command_list()) commands.push_back(add_command(app, row, arguments));
   try {
     app.parse(argc, argv);
-    Options options = understand(arguments);
-    for (auto const& [command, show] : commands) {
-      if (command->parsed()) options.show = show;
-    }
-    return {options};
+    auto const parsed = std::ranges::find_if(commands, [](auto const* command) { return command->parsed(); });
+    return {understand(command_list()[static_cast<std::size_t>(parsed - commands.begin())], arguments)};
   } catch (CLI::ParseError const& reason) {
     return {std::nullopt, leave(app, reason)};
   }

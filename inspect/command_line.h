@@ -6,16 +6,14 @@
 #include <string>
 #include <vector>
 
-#include "ts_input.h"
+#include "command_list.h"
+#include "input/ts_input.h"
 
 namespace inspect {
 
 /// What the user asked for.
 struct Options {
-  enum class Show { dump, xml, sections, services, events, networks };
-  enum class Input { ts, sections, xml };
-
-  Show show = Show::dump;
+  CommandRow const* command = nullptr;
   Input input = Input::ts;
   std::vector<Handle> handles;  ///< empty: the usual ones
   std::string file;             ///< "-" is standard input

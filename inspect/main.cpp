@@ -10,39 +10,22 @@
 #include <memory>
 
 #include "command_line.h"
-#include "dump_command.h"
-#include "events_command.h"
-#include "networks_command.h"
-#include "section_list_input.h"
-#include "sections_command.h"
-#include "services_command.h"
-#include "xml_command.h"
-#include "xml_input.h"
+#include "input/section_list_input.h"
+#include "input/xml_input.h"
 
 namespace inspect {
 
 namespace {
 
-std::unique_ptr<Command> make_command(Options const& options) {
-  switch (options.show) {
-    case Options::Show::xml:
-      return std::make_unique<XmlCommand>(std::cout);
-    case Options::Show::sections:
-      return std::make_unique<SectionsCommand>(std::cout);
-    case Options::Show::services:
-      return std::make_unique<ServicesCommand>(std::cout);
-    case Options::Show::events:
-      return std::make_unique<EventsCommand>(std::cout);
-    case Options::Show::networks:
-      return std::make_unique<NetworksCommand>(std::cout);
-    default:
-      return std::make_unique<DumpCommand>(std::cout);
-  }
-}
-
 bool read_sections(std::istream& in, Options const& options, Command& command) {
-  if (options.input == Options::Input::sections) return read_section_list(in, command);
-  if (options.input == Options::Input::xml) return read_xml(in, command);
+  switch (options.input) {
+    case Input::sections:
+      return read_section_list(in, command);
+    case Input::xml:
+      return read_xml(in, command);
+    case Input::ts:
+      break;
+  }
   return read_ts(in, options.handles, command);
 }
 
@@ -61,7 +44,7 @@ bool open_and_read(Options const& options, Command& command) {
 }
 
 int run(Options const& options) {
-  std::unique_ptr<Command> const command = make_command(options);
+  std::unique_ptr<Command> const command = options.command->make(std::cout);
   bool const is_read = open_and_read(options, *command);
   if (!std::cout.flush()) {
     report("cannot write to standard output");

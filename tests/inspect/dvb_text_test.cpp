@@ -2,13 +2,14 @@
 // Copyright (c) 2026 the sivane authors
 //
 // The texts that broadcasts are written in, and how many cells they take.
-#include "../../inspect/dvb_text.h"
+
+#include "text/dvb_text.h"
 
 #include <gtest/gtest.h>
 
-#include "../../inspect/conversion.h"
-#include "../../inspect/terminal.h"
 #include "run_inspect.h"
+#include "text/conversion.h"
+#include "text/terminal.h"
 
 namespace sivane::testing {
 

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "command_list.h"
+
+#include "commands/dump.h"
+#include "commands/events.h"
+#include "commands/networks.h"
+#include "commands/sections.h"
+#include "commands/services.h"
+#include "commands/xml.h"
+
+namespace inspect {
+
+namespace {
+
+template <class Class>
+std::unique_ptr<Command> make(std::ostream& out) {
+  return std::make_unique<Class>(out);
+}
+
+constexpr Input all_inputs[] = {Input::ts, Input::sections, Input::xml};
+constexpr std::span<Input const> any = all_inputs;
+constexpr std::span<Input const> bytes = any.first(2);
+
+constexpr CommandRow rows[] = {
+    {"dump", "Print every section as text", any, make<DumpCommand>},
+    {"xml", "Save all sections as one XML document", any, make<XmlCommand>},
+    {"sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", bytes,
+     make<SectionsCommand>},
+    {"services", "List the services with their names, types and states", bytes, make<ServicesCommand>},
+    {"events", "List the events with their times (UTC) and names", bytes, make<EventsCommand>},
+    {"networks", "List networks, bouquets and CA systems with their names", bytes, make<NetworksCommand>},
+};
+
+}  // namespace
+
+std::span<CommandRow const> command_list() { return rows; }
+
+std::string_view name_of(Input input) {
+  constexpr std::string_view names[] = {"ts", "sections", "xml"};
+  return names[static_cast<int>(input)];
+}
+
+}  // namespace inspect

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <iosfwd>
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "commands/command.h"
+
+namespace inspect {
+
+enum class Input { ts, sections, xml };
+
+/// A subcommand. The constructor asks for every part of it, so that none can be left out.
+struct CommandRow {
+  using Make = std::unique_ptr<Command>(std::ostream& out);
+
+  constexpr CommandRow(char const* its_name, char const* its_help, std::span<Input const> its_inputs,
+                       Make& its_make)
+      : name(its_name), help(its_help), inputs(its_inputs), make(&its_make) {}
+
+  char const* name;
+  char const* help;
+  std::span<Input const> inputs;  ///< what it can read
+  Make* make;
+};
+
+std::span<CommandRow const> command_list();
+
+/// The word that --input takes.
+std::string_view name_of(Input input);
+
+}  // namespace inspect

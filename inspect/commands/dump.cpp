@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "commands/dump.h"
+
+#include <sstream>
+
+namespace inspect {
+
+void DumpCommand::show(Section const& section) {
+  std::unique_ptr<Table> const table = table_of(section);
+  if (!table) return;
+  std::ostringstream text;  // a dump leaves its stream's base and fill changed
+  table->dump(text);
+  show_title(class_of(section)->name);
+  out_ << text.str();
+}
+
+void DumpCommand::show_failure(Failure const& failure) {
+  show_title(failure.class_name);
+  out_ << "error " << failure.code << ' ' << failure.what << '\n';
+}
+
+void DumpCommand::show_title(std::string_view class_name) {
+  out_ << "== " << number() << ' ' << class_name << '\n';
+}
+
+}  // namespace inspect

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/tables/eit.h>
+
+#include <iosfwd>
+#include <map>
+#include <utility>
+
+#include "commands/command.h"
+#include "commands/service_list.h"
+
+namespace inspect {
+
+/// Lists the events that the EITs announce, by service and time.
+class EventsCommand final : public Command {
+ public:
+  explicit EventsCommand(std::ostream& out) : out_(out) {}
+  void finish() override;
+
+ private:
+  struct Event {
+    sivane::DateTime start;
+    sivane::Duration duration;
+    std::u32string name;
+  };
+
+  void show(Section const& section) override;
+  void take(sivane::Eit const& eit, Section const& section);
+
+  std::ostream& out_;
+  ServiceList services_;
+  std::map<std::pair<ServiceId, int>, Event> events_;  // by service and event id; what was sent last counts
+};
+
+}  // namespace inspect

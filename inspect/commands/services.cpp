@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "commands/services.h"
+
+#include <sivane/sivane.h>
+
+#include <ostream>
+#include <string_view>
+
+#include "text/hexadecimal.h"
+#include "text/names.h"
+#include "text/terminal.h"
+
+namespace inspect {
+
+namespace {
+
+std::u32string running_text(int status) {
+  constexpr char const* texts[] = {"-", "not running", "starts soon", "pausing", "running", "off-air"};
+  return plain(static_cast<std::size_t>(status) < std::size(texts) ? texts[status] : "-");
+}
+
+std::u32string type_text(int type) {
+  if (type < 0) return U"-";
+  std::string_view const text = sivane::DescriptorService::get_service_type_text(type);
+  bool const has_name = text != "reserved for future use" && text != "user defined";
+  return plain(has_name ? text : c_hexadecimal(type, 1));
+}
+
+std::u32string access_text(Service const& service, std::set<int> const& systems) {
+  std::u32string const names = ca_systems(systems);
+  if (!service.is_scrambled) return names.empty() ? U"free" : U"free (" + names + U")";
+  return names.empty() ? U"scrambled" : U"scrambled (" + names + U")";
+}
+
+}  // namespace
+
+void ServicesCommand::show(Section const& section) {
+  if (auto const table = table_of(section)) services_.take(*table);
+}
+
+void ServicesCommand::finish() {
+  Columns columns({U"network", U"stream", U"service", U"name", U"provider", U"type", U"status", U"access"});
+  for (auto const& [id, service] : services_.all()) {
+    columns.add({numbered(sivane::get_original_network_id, id.original_network), plain(id.transport_stream),
+                 plain(id.service), service.name, service.provider, type_text(service.type),
+                 running_text(service.running_status), access_text(service, services_.ca_systems_of(id))});
+  }
+  if (columns.empty()) {
+    report("no service is described");
+  } else {
+    columns.print(out_);
+  }
+}
+
+}  // namespace inspect
