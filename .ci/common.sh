@@ -36,7 +36,7 @@ install_library() {
 }
 
 # The warnings of the project, as compilers take them.
-project_warnings() { grep -oE -e '-W[-a-z0-9]+' cmake/warnings.cmake; }
+project_warnings() { grep -oE -e '-W[-a-z0-9]+' cmake/targets.cmake; }
 
 # Headers of sivane/ that are installed, one a line, relative to sivane/.
 public_headers() { sed -n '/FILE_SET HEADERS/,/)/s/^ *\([a-z0-9_/]*\.\(h\|inc\)\))*$/\1/p' sivane/CMakeLists.txt; }
