@@ -6,8 +6,8 @@
 #include <sivane/sivane.h>
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 
 #include "exercise_table.h"
@@ -18,12 +18,10 @@ namespace {
 using sivane::fuzzing::exercise_table;
 using sivane::testing::Bytes;
 
-/// A new class is a line behind the others, so that the inputs at hand keep their meaning.
-constexpr std::array exercises = {
-    &exercise_table<sivane::Pat>, &exercise_table<sivane::Cat>,   &exercise_table<sivane::Pmt>,
-    &exercise_table<sivane::Nit>, &exercise_table<sivane::Bat>,   &exercise_table<sivane::Sdt>,
-    &exercise_table<sivane::Eit>, &exercise_table<sivane::Tdt>,   &exercise_table<sivane::Tot>,
-    &exercise_table<sivane::Rst>, &exercise_table<sivane::DsmCC>, &exercise_table<sivane::Ait>,
+/// In the order of the rows, so that the inputs at hand keep their meaning.
+constexpr void (*exercises[])(unsigned char const* section, std::size_t available) = {
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) &exercise_table<sivane::Class>,
+#include <sivane/tables/table_rows.inc>
 };
 
 void fit_length(Bytes& section) {
@@ -52,6 +50,6 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   // A block of its own size lets the address sanitizer see the first byte that is read behind it.
   auto const block = std::make_unique<unsigned char[]>(bytes.size());
   std::copy(bytes.begin(), bytes.end(), block.get());
-  exercises[(choice >> 2) % exercises.size()](block.get(), bytes.size());
+  exercises[(choice >> 2) % std::size(exercises)](block.get(), bytes.size());
   return 0;
 }

@@ -53,10 +53,8 @@ struct Class {
   void (*exercise)(sivane::IXMLDOMNode*);
 };
 constexpr Class classes[] = {
-    {u"Pat", exercise<sivane::Pat>}, {u"Cat", exercise<sivane::Cat>}, {u"Pmt", exercise<sivane::Pmt>},
-    {u"Nit", exercise<sivane::Nit>}, {u"Bat", exercise<sivane::Bat>}, {u"Sdt", exercise<sivane::Sdt>},
-    {u"Eit", exercise<sivane::Eit>}, {u"Tdt", exercise<sivane::Tdt>}, {u"Tot", exercise<sivane::Tot>},
-    {u"Rst", exercise<sivane::Rst>}, {u"Ait", exercise<sivane::Ait>}, {u"DsmCC", exercise<sivane::DsmCC>},
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) {u"" #Class, exercise<sivane::Class>},
+#include <sivane/tables/table_rows.inc>
 };
 
 void exercise_children(Document const& document) {

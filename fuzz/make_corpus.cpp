@@ -125,34 +125,40 @@ std::string one_of_each(std::initializer_list<char const*> names) {
   return all;
 }
 
-/// A section of each class that the case files of descriptors fill.
+constexpr char const* table_classes[] = {
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) #Class,
+#include <sivane/tables/table_rows.inc>
+};
+
+/// A section of each table class, with what the case files of descriptors have.
 void write_rich_sections(fs::path const& folder) {
   std::string const all =
       one_of_each({"mpeg_systems", "network", "service", "event", "stream", "cell", "general"});
   std::string const ait = one_of_each({"ait"});
   std::string const start = "B( 1234 C1 00 00 ";
   std::string const streams = "F( 09[ 0500 E1F5 ] 15[] ) F( 0001 0002 F(" + all + ") 0003 0004 F() ) crc )";
-  std::pair<std::string, std::string> const sections[] = {
-      // behind the Pat, in the order of the classes in fuzz_sections.cpp
-      {"cat", "01" + start + "09[ 0500 E1F5 41 ] 09[ 0600 E001 ] crc )"},
-      {"pmt", "02" + start + "E1FF F( 09[ 0500 E1F5 ] ) 1B E100 F(" + all + ") 06 E101 F() crc )"},
-      {"nit", "40" + start + streams},
-      {"bat", "4A" + start + streams},
-      {"sdt", "42" + start + "0001 FF 0001 FD 8(" + all + ") 0002 FE 1() crc )"},
-      {"eit", "4E" + start + "0001 0002 00 4E 0001 C079124500 014530 8(" + all +
+  std::map<std::string, std::string> const sections = {
+      {"Pat", "00" + start + "0000 E010 0001 E100 crc )"},
+      {"Cat", "01" + start + "09[ 0500 E1F5 41 ] 09[ 0600 E001 ] crc )"},
+      {"Pmt", "02" + start + "E1FF F( 09[ 0500 E1F5 ] ) 1B E100 F(" + all + ") 06 E101 F() crc )"},
+      {"Nit", "40" + start + streams},
+      {"Bat", "4A" + start + streams},
+      {"Sdt", "42" + start + "0001 FF 0001 FD 8(" + all + ") 0002 FE 1() crc )"},
+      {"Eit", "4E" + start + "0001 0002 00 4E 0001 C079124500 014530 8(" + all +
                   ") 0002 C079124500 014530 1() crc )"},
-      {"tdt", "70 7( C079124500 )"},
-      {"tot", "73 7( C079124500 F( 58[ \"GBR\" 02 0100 C079124500 0000 ] 15[ AA ] ) 00000000 )"},
-      {"rst", "71 7( 0001 0002 0003 0004 05 0006 0007 0008 0009 02 )"},
-      {"dsm_cc", "3B" + start + "010203040506 crc )"},
-      {"ait", "74" + start + "F( 01[ \"eng\" [ \"a\" ] ] ) F( 00000015 0001 01 F(" + ait +
+      {"Tdt", "70 7( C079124500 )"},
+      {"Tot", "73 7( C079124500 F( 58[ \"GBR\" 02 0100 C079124500 0000 ] 15[ AA ] ) 00000000 )"},
+      {"Rst", "71 7( 0001 0002 0003 0004 05 0006 0007 0008 0009 02 )"},
+      {"DsmCC", "3B" + start + "010203040506 crc )"},
+      {"Ait", "74" + start + "F( 01[ \"eng\" [ \"a\" ] ] ) F( 00000015 0001 01 F(" + ait +
                   ") 00000015 0002 02 F() ) crc )"},
   };
   constexpr unsigned int fitted = 3;
-  unsigned int number = 0;
-  for (auto const& [name, section] : sections) {
-    auto const choice = static_cast<unsigned char>(++number << 2 | fitted);
-    write(folder / ("rich-" + name), Bytes{choice} + sivane::testing::assemble(section));
+  unsigned int row = 0;
+  for (char const* const name : table_classes) {
+    auto const choice = static_cast<unsigned char>(row++ << 2 | fitted);
+    write(folder / ("rich-" + std::string(name)),
+          Bytes{choice} + sivane::testing::assemble(sections.at(name)));
   }
 }
 

@@ -5,7 +5,9 @@
 #include <sivane/sivane.h>
 
 #include <algorithm>
-#include <numeric>
+#include <initializer_list>
+#include <map>
+#include <utility>
 
 namespace inspect {
 
@@ -16,23 +18,29 @@ std::unique_ptr<Table> make() {
   return std::make_unique<TableOf<Class>>();
 }
 
-std::vector<int> event_table_ids() {
-  std::vector<int> ids(0x6F - 0x4E + 1);
-  std::iota(ids.begin(), ids.end(), 0x4E);
-  return ids;
+std::optional<int> usual_pid(std::string_view name) {
+  static std::map<std::string_view, int> const pids = {{"Pat", 0x0000}, {"Cat", 0x0001}, {"Nit", 0x0010},
+                                                       {"Sdt", 0x0011}, {"Bat", 0x0011}, {"Eit", 0x0012},
+                                                       {"Rst", 0x0013}, {"Tdt", 0x0014}, {"Tot", 0x0014}};
+  auto const found = pids.find(name);
+  return found == pids.end() ? std::optional<int>() : found->second;
+}
+
+TableClass row(std::string_view name, std::initializer_list<sivane::TableIds> ids,
+               std::unique_ptr<Table> (*make)()) {
+  std::vector<int> table_ids;
+  for (sivane::TableIds const& of : ids) {
+    for (int id = of.first; id <= of.last; ++id) table_ids.push_back(id);
+  }
+  return {name, std::move(table_ids), usual_pid(name), make};
 }
 
 }  // namespace
 
 std::span<TableClass const> table_classes() {
   static std::vector<TableClass> const rows = {
-      // name, table ids, usual PID, objects
-      {"Pat", {0x00}, 0x0000, make<sivane::Pat>},       {"Cat", {0x01}, 0x0001, make<sivane::Cat>},
-      {"Pmt", {0x02}, {}, make<sivane::Pmt>},           {"DsmCC", {0x3B, 0x3C}, {}, make<sivane::DsmCC>},
-      {"Nit", {0x40, 0x41}, 0x0010, make<sivane::Nit>}, {"Sdt", {0x42, 0x46}, 0x0011, make<sivane::Sdt>},
-      {"Bat", {0x4A}, 0x0011, make<sivane::Bat>},       {"Eit", event_table_ids(), 0x0012, make<sivane::Eit>},
-      {"Tdt", {0x70}, 0x0014, make<sivane::Tdt>},       {"Rst", {0x71}, 0x0013, make<sivane::Rst>},
-      {"Tot", {0x73}, 0x0014, make<sivane::Tot>},       {"Ait", {0x74}, {}, make<sivane::Ait>},
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) row(#Class, {__VA_ARGS__}, make<sivane::Class>),
+#include <sivane/tables/table_rows.inc>
   };
   return rows;
 }

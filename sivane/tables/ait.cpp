@@ -54,8 +54,6 @@ void Ait::_parse(unsigned char const* body) {
   if (loop.past_end()) raise(applications_mismatch);
 }
 
-char const* Ait::get_table_id_text() const { return "ait"; }
-
 char const* Ait::get_application_type_text() const {
   switch (get_application_type()) {
     case 0:
@@ -81,7 +79,5 @@ void Ait::_dump_state(std::ostream& os) const {
   dump::line(os, "application_loop_length: ", application_loop_length);
   dump::each(os, application_infos);
 }
-
-bool Ait::is_valid_tablesid() const { return true; }
 
 }  // namespace sivane

@@ -14,18 +14,12 @@ void Bat::Stream_info::dump_state(std::ostream& os) const {
 
 void Bat::_parse(unsigned char const* body) { parse_network_body(*this, body_reader(body)); }
 
-char const* Bat::get_table_id_text() const {
-  return table_id == 0x4A ? "bouquet_association_section" : "ERROR";
-}
-
 void Bat::_reset() {
   ca_descriptors.clear();
   stream_infos.clear();
 }
 
 void Bat::_dump_state(std::ostream& os) const { dump::each(os, stream_infos); }
-
-bool Bat::is_valid_tablesid() const { return table_id == 0x4A; }
 
 bool Bat::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
 

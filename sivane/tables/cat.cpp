@@ -17,13 +17,9 @@ void Cat::_parse(unsigned char const* body) {
   }
 }
 
-char const* Cat::get_table_id_text() const { return "conditional_access_section"; }
-
 void Cat::_reset() { clear_descriptors(); }
 
 void Cat::_dump_state(std::ostream&) const {}
-
-bool Cat::is_valid_tablesid() const { return table_id == 0x01; }
 
 bool Cat::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
 

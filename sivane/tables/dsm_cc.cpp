@@ -10,12 +10,8 @@ void DsmCC::_parse(unsigned char const* body) {
   data = body_reader(body).rest();
 }
 
-char const* DsmCC::get_table_id_text() const { return "DSMCC"; }
-
 void DsmCC::_reset() {}
 
 void DsmCC::_dump_state(std::ostream&) const {}
-
-bool DsmCC::is_valid_tablesid() const { return table_id == 0x3B || table_id == 0x3C; }
 
 }  // namespace sivane

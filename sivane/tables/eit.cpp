@@ -11,11 +11,6 @@ namespace sivane {
 namespace {
 
 constexpr int entry_head_size = 12;
-
-constexpr int first_table_id = 0x4E;
-constexpr int last_schedule_id_of_actual = 0x5F;
-constexpr int last_schedule_id_of_other = 0x6F;
-
 }  // namespace
 
 Eit::EventInfo::EventInfo(unsigned char const* data, int& size) {
@@ -51,16 +46,10 @@ void Eit::_parse(unsigned char const* body) {
   if (reader.past_end()) raise(start_end_mismatch);
 }
 
-char const* Eit::get_table_id_text() const { return get_table_id_text(table_id); }
-
 char const* Eit::get_table_id_text(int table_id) {
-  if (table_id < first_table_id || table_id > last_schedule_id_of_other) return "<unknown>";
-  if (table_id == 0x4E) return "event_information_section - actual_transport_stream, present/following";
-  if (table_id == 0x4F) return "event_information_section - other_transport_stream, present/following";
-  if (table_id <= last_schedule_id_of_actual) {
-    return "event_information_section - actual_transport_stream, schedule";
-  }
-  return "event_information_section - other_transport_stream, schedule";
+  Eit of_this_id;
+  of_this_id.table_id = table_id;
+  return of_this_id.get_table_id_text();
 }
 
 void Eit::_reset() { event_infos.clear(); }
@@ -72,10 +61,6 @@ void Eit::_dump_state(std::ostream& os) const {
   dump::line(os, "segment_last_section_number: ", segment_last_section_number);
   dump::line(os, "last_table_id: ", last_table_id);
   dump::each(os, event_infos);
-}
-
-bool Eit::is_valid_tablesid() const {
-  return table_id >= first_table_id && table_id <= last_schedule_id_of_other;
 }
 
 bool Eit::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }

@@ -18,20 +18,12 @@ void Nit::Stream_info::dump_state(std::ostream& os) const {
 
 void Nit::_parse(unsigned char const* body) { parse_network_body(*this, body_reader(body)); }
 
-char const* Nit::get_table_id_text() const {
-  if (table_id == 0x40) return "network_information_section - actual_transport_network";
-  if (table_id == 0x41) return "network_information_section - other_transport_network";
-  return "ERROR";
-}
-
 void Nit::_reset() {
   ca_descriptors.clear();
   stream_infos.clear();
 }
 
 void Nit::_dump_state(std::ostream& os) const { dump::each(os, stream_infos); }
-
-bool Nit::is_valid_tablesid() const { return table_id == 0x40 || table_id == 0x41; }
 
 bool Nit::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
 

@@ -33,13 +33,9 @@ void Pat::_parse(unsigned char const* body) {
   while (reader.more()) program_infos.emplace_back(reader);
 }
 
-char const* Pat::get_table_id_text() const { return "program_association_section"; }
-
 void Pat::_reset() { program_infos.clear(); }
 
 void Pat::_dump_state(std::ostream& os) const { dump::each(os, program_infos); }
-
-bool Pat::is_valid_tablesid() const { return table_id == 0x00; }
 
 Pat::program_info const& Pat::get_program_info(int index) const {
   return program_infos[static_cast<std::size_t>(index)];

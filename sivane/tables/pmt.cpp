@@ -75,8 +75,6 @@ void Pmt::_parse(unsigned char const* body) {
   if (reader.past_end()) raise(start_end_mismatch);
 }
 
-char const* Pmt::get_table_id_text() const { return "program_map_section"; }
-
 void Pmt::_reset() {
   stream_infos.clear();
   descriptors.clear();
@@ -103,8 +101,6 @@ void Pmt::_dump_state(std::ostream& os) const {
   os.flags(flags);
   os.width(width);
 }
-
-bool Pmt::is_valid_tablesid() const { return table_id == 0x02; }
 
 bool Pmt::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
 

@@ -30,16 +30,12 @@ void Rst::_parse(unsigned char const* body) {
   while (reader.more()) status_infos.emplace_back(reader);
 }
 
-char const* Rst::get_table_id_text() const { return "running_status_section"; }
-
 void Rst::_reset() { status_infos.clear(); }
 
 void Rst::_dump_state(std::ostream& os) const {
   PsiBase::_dump_state(os);
   dump::each(os, status_infos);
 }
-
-bool Rst::is_valid_tablesid() const { return table_id == 0x71; }
 
 bool Rst::is_syntax_indicator_valid(int indicator) const { return indicator == 0; }
 

@@ -50,20 +50,12 @@ void Sdt::_parse(unsigned char const* body) {
   if (reader.past_end()) raise(start_end_mismatch);
 }
 
-char const* Sdt::get_table_id_text() const {
-  if (table_id == 0x42) return "service_description_section - actual_transport_stream";
-  if (table_id == 0x46) return "service_description_section - other_transport_stream";
-  return "ERROR";
-}
-
 void Sdt::_reset() { service_infos.clear(); }
 
 void Sdt::_dump_state(std::ostream& os) const {
   dump::line(os, "original_network_id ", original_network_id);
   dump::each(os, service_infos);
 }
-
-bool Sdt::is_valid_tablesid() const { return table_id == 0x42 || table_id == 0x46; }
 
 bool Sdt::is_valid_syntax_indicator(int indicator) const { return indicator == 1; }
 

@@ -16,8 +16,6 @@ void Tot::_parse(unsigned char const* body) {
   crc32 = reader.u32();
 }
 
-char const* Tot::get_table_id_text() const { return "time_offset_section"; }
-
 void Tot::_reset() { clear_general_descriptors(); }
 
 void Tot::_dump_state(std::ostream& os) const {
@@ -25,8 +23,6 @@ void Tot::_dump_state(std::ostream& os) const {
   os << "UTC_time: " << UTC_time << std::endl;
   dump::line(os, "crc32: ", crc32);
 }
-
-bool Tot::is_valid_tablesid() const { return table_id == 0x73; }
 
 bool Tot::is_syntax_indicator_valid(int indicator) const { return indicator == 0; }
 

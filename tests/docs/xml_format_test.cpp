@@ -34,19 +34,20 @@ TEST(XmlFormatPage, ShowsWhatTheLibraryWrites) {
   EXPECT_NE(page().find("```xml\n" + text + "```\n"), std::string::npos) << text;
 }
 
-/// What is saved of a descriptor: its attributes behind the tag and the length, and its children.
-template <class Descriptor>
-std::string saved_names() {
+/// What is saved of a new object: its attributes behind `head`, and its children.
+template <class Object>
+std::string saved_names(std::string const& head = "descriptor_id descriptor_length ") {
   MemoryDom dom;
   auto const element = dom.element(u"it");
-  Descriptor().SaveSection(dom.document().get(), element.get());
+  Object().SaveSection(dom.document().get(), element.get());
   std::string names;
   while (attribute_count(element.get()) > 0) names += take_attribute(element.get(), 0) + ' ';
   names += "| ";
   for (std::size_t i = 0; i < child_count(element.get()); ++i) {
     names += name_of(child_at(element.get(), i).get()) + ' ';
   }
-  return names.substr(std::string("descriptor_id descriptor_length ").size());
+  EXPECT_EQ(names.substr(0, head.size()), head);
+  return names.substr(head.size());
 }
 
 /// The names in backticks in a cell of the page; of a list the item's stands behind "of", which is left out.
@@ -82,6 +83,43 @@ TEST(XmlFormatPage, ListsWhatEveryDescriptorHas) {
 #define SIVANE_ROW(tag, Class, getter, element, tag_text) \
   EXPECT_EQ(listed_names(element), saved_names<sivane::Class>()) << element;
 #include <sivane/descriptors/ait_descriptor_rows.inc>
+}
+
+/// The page from `start` to the next empty line.
+std::string paragraph(std::string const& start) {
+  std::string const text = page();
+  std::size_t const at = text.find(start);
+  return at == std::string::npos ? "no such lines" : text.substr(at, text.find("\n\n", at) - at);
+}
+
+/// Attributes and children in a row of the page's tables: name, attributes, list, entry, descriptors.
+std::string listed_names_of_table(std::string const& name) {
+  std::istringstream rows(paragraph("| table | attributes |"));
+  std::string const cell = "| `" + name + "` | ";
+  for (std::string row; std::getline(rows, row);) {
+    if (row.rfind(cell, 0) != 0) continue;
+    std::istringstream cells(row.substr(cell.size()));
+    std::string attributes, list, entry, descriptors;
+    for (std::string* const text : {&attributes, &list, &entry, &descriptors})
+      std::getline(cells, *text, '|');
+    return names_in(attributes) + "| " + names_in(list) + (descriptors == " yes " ? "descriptors " : "");
+  }
+  return "no such row";
+}
+
+template <class Table>
+void expect_table_is_listed(std::string const& name) {
+  bool const is_long = std::is_base_of_v<sivane::PsiTableBase, Table>;
+  std::string header = paragraph(is_long ? "- long sections (" : "- short sections (");
+  header.resize(header.find_first_of(";."));
+  std::string const classes = header.substr(0, header.find("):"));
+  EXPECT_NE(classes.find("`" + name + "`"), std::string::npos) << name << " in: " << classes;
+  EXPECT_EQ(listed_names_of_table(name), saved_names<Table>(names_in(header.substr(classes.size())))) << name;
+}
+
+TEST(XmlFormatPage, ListsWhatEveryTableHas) {
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) expect_table_is_listed<sivane::Class>(#Class);
+#include <sivane/tables/table_rows.inc>
 }
 
 }  // namespace

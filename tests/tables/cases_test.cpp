@@ -228,15 +228,10 @@ struct TableClass {
   void (*damage)(std::string const& file);
 };
 
-template <class Table>
-constexpr TableClass table(char const* name) {
-  return {name, run_steps<Table>, damage<Table>};
-}
-
-constexpr TableClass tables[] = {table<Cat>("cat"), table<Pmt>("pmt"),     table<Nit>("nit"),
-                                 table<Bat>("bat"), table<Sdt>("sdt"),     table<Eit>("eit"),
-                                 table<Tdt>("tdt"), table<Tot>("tot"),     table<Rst>("rst"),
-                                 table<Ait>("ait"), table<DsmCC>("dsm_cc")};
+constexpr TableClass tables[] = {
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) {#Class, run_steps<Class>, damage<Class>},
+#include <sivane/tables/table_rows.inc>
+};
 
 class Tables : public ::testing::TestWithParam<TableClass> {
  protected:
