@@ -34,28 +34,33 @@ class Folder {
   std::filesystem::path path_;
 };
 
+void replace(std::string& text, std::string const& old, std::string const& by) {
+  for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos; at += by.size()) {
+    text.replace(at, old.size(), by);
+  }
+}
+
+}  // namespace
+
 std::string contents(std::string const& path) {
   std::ostringstream text;
   text << std::ifstream(path, std::ios::binary).rdbuf();
   return text.str();
 }
 
-std::string with_path(std::string arguments, std::string const& path) {
-  std::size_t const at = arguments.find('@');
-  return at == std::string::npos ? arguments : arguments.replace(at, 1, path);
-}
-
-}  // namespace
-
-Outcome inspect(std::string const& arguments, std::string const& input) {
+Outcome inspect(std::string arguments, std::string const& input) {
   Folder const folder;
   std::string const in = folder.file("in");
   std::ofstream(in, std::ios::binary) << input;
-  std::string const command = "('" SIVANE_INSPECT "' " + with_path(arguments, in) + ") < " + in + " > " +
-                              folder.file("out") + " 2> " + folder.file("err");
+  replace(arguments, "@", in);
+  replace(arguments, "%", SIVANE_SAMPLES "/");
+  std::string const command = "cd '" SIVANE_ROOT "' && ('" SIVANE_INSPECT "' " + arguments + ") < " + in +
+                              " > " + folder.file("out") + " 2> " + folder.file("err");
   int const result = std::system(command.c_str());
-  return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, contents(folder.file("out")),
-          contents(folder.file("err"))};
+  std::string err = contents(folder.file("err"));
+  replace(err, in, "@");
+  replace(err, "sivane-inspect: ", "");
+  return {WIFEXITED(result) ? WEXITSTATUS(result) : -1, contents(folder.file("out")), err};
 }
 
 Outcome inspect(std::string const& arguments, Bytes const& input) {

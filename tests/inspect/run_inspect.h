@@ -14,11 +14,14 @@ struct Outcome {
   std::string err;
 };
 
-/// Runs sivane-inspect with `arguments`, in which the word @ stands for the path of a file with `input`; the
-/// file is standard input, too.
-Outcome inspect(std::string const& arguments, std::string const& input = "");
+/// Runs sivane-inspect in the source tree with `arguments`, in which @ stands for the path of a file with
+/// `input` and % for the folder of the samples; the file is standard input, too. In `err` the program's name
+/// is left out, and the file is @ again.
+Outcome inspect(std::string arguments, std::string const& input = "");
 Outcome inspect(std::string const& arguments, Bytes const& input);
 
+/// What a file holds.
+std::string contents(std::string const& path);
 std::string hex_text(Bytes const& bytes);
 int line_count(std::string const& text);
 
