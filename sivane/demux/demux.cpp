@@ -4,6 +4,7 @@
 #include <sivane/foundation/error.h>
 
 #include <algorithm>
+#include <memory>
 #include <ostream>
 #include <utility>
 
@@ -41,6 +42,32 @@ Demux::AdaptionFieldHeader::AdaptionFieldHeader(unsigned char const* field, int&
   length = field[0] + 1;
 }
 
+/// The entry of a PID, made where there is none. One to which nothing could be added goes again.
+class Demux::PidEntry {
+ public:
+  PidEntry(Demux& demux, int pid) : demux_(demux), entry_(demux.pid_handlers.find(pid)) {
+    if (entry_ == demux.pid_handlers.end()) add(pid);
+  }
+  PidEntry(PidEntry const&) = delete;
+  PidEntry& operator=(PidEntry const&) = delete;
+  ~PidEntry() {
+    if (handler().psi_handlers.empty() && handler().filter_handlers.empty()) demux_.drop_pid(entry_);
+  }
+
+  PidHandler& handler() const { return *entry_->second; }
+
+ private:
+  void add(int pid) {
+    auto handler = std::make_unique<PidHandler>(demux_);
+    entry_ = demux_.pid_handlers.emplace(pid, handler.get()).first;
+    handler.release();
+    if (0 <= pid && pid < pid_count) demux_.handled_.set(static_cast<std::size_t>(pid));
+  }
+
+  Demux& demux_;
+  std::map<int, PidHandler*>::iterator entry_;
+};
+
 Demux::Demux() = default;
 
 Demux::~Demux() { reset(); }
@@ -49,11 +76,15 @@ void Demux::reset() {
   while (!pid_handlers.empty()) drop_pid(pid_handlers.begin());
 }
 
-void Demux::add_psi_handler(int pid, int table_id) { handler_for(pid).AddPsiHandler(table_id); }
+void Demux::add_psi_handler(int pid, int table_id) {
+  PidEntry const entry(*this, pid);
+  entry.handler().AddPsiHandler(table_id);
+}
 
 void Demux::add_psi_handler(int pid, unsigned char const* value, unsigned char const* mask, int size,
                             unsigned long id) {
-  handler_for(pid).AddPsiHandler(value, mask, size, id);
+  PidEntry const entry(*this, pid);
+  entry.handler().AddPsiHandler(value, mask, size, id);
 }
 
 void Demux::remove_psi_handler(int pid, int table_id) {
@@ -96,8 +127,9 @@ int Demux::start() {
 void Demux::route_packet(unsigned char const* packet) {
   TSHeader header(packet);
   Payload const payload = show_packet(header, packet);
-  if (is_handled(header.pid))
-    pid_handlers.find(header.pid)->second->parse(header, payload.data, payload.size);
+  if (!is_handled(header.pid)) return;
+  auto const entry = pid_handlers.find(header.pid);  // a host may have taken it away by itself
+  if (entry != pid_handlers.end()) entry->second->parse(header, payload.data, payload.size);
 }
 
 Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* packet) {
@@ -112,26 +144,16 @@ Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* p
   return {packet + offset, ts_packet_size - offset};
 }
 
-Demux::PidHandler& Demux::handler_for(int pid) {
-  auto entry = pid_handlers.find(pid);
-  if (entry == pid_handlers.end()) {
-    auto handler = std::make_unique<PidHandler>(*this);
-    entry = pid_handlers.emplace(pid, handler.get()).first;
-    handler.release();
-    if (0 <= pid && pid < pid_count) handled_.set(static_cast<std::size_t>(pid));
-  }
-  return *entry->second;
-}
-
 void Demux::drop_pid(std::map<int, PidHandler*>::iterator entry) {
   auto const [pid, handler] = *entry;
-  std::unique_ptr<PidHandler> owned(handler);
-  if (deliveries_ > 0) {
-    owned->removed_ = true;
-    retired_pids_.push_back(std::move(owned));
-  }
   pid_handlers.erase(entry);
   if (0 <= pid && pid < pid_count) handled_.reset(static_cast<std::size_t>(pid));
+  if (deliveries_ == 0) {
+    delete handler;
+    return;
+  }
+  handler->removed_ = true;
+  handler->next_retired_ = std::exchange(retired_pids_, handler);
 }
 
 }  // namespace sivane

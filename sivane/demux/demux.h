@@ -6,11 +6,10 @@
 
 #include <bitset>
 #include <cstddef>
+#include <cstdint>
 #include <iosfwd>
 #include <map>
-#include <memory>
 #include <set>
-#include <vector>
 
 namespace sivane {
 
@@ -30,7 +29,7 @@ inline constexpr unsigned char ts_sync_byte = 0x47;
 /// are not looked at: a lost packet shows up as a wrong CRC in the section that it was part of.
 ///
 /// A hook may register and remove handlers, the one that is delivering to it included: it gets no further
-/// calls.
+/// calls. What a hook registers takes part from the next packet on.
 class SIVANE_API Demux {
  public:
   class PidHandler;
@@ -107,7 +106,8 @@ class SIVANE_API Demux {
   /// keep them alive. Every call adds a filter.
   void add_psi_handler(int pid, unsigned char const* value, unsigned char const* mask, int size,
                        unsigned long id);
-  /// Drops the handler of `table_id`; with the last one on `pid` the filters of `pid` go too.
+  /// Drops the handler of `table_id` on `pid`, if there is one. If `pid` has none left then, its filters go
+  /// too: on a PID of filters alone any `table_id` drops them all. No other call drops a filter but `reset`.
   void remove_psi_handler(int pid, int table_id);
   void dump_state(std::ostream& os) const;
 
@@ -149,15 +149,17 @@ class SIVANE_API Demux {
   };
   Payload show_packet(TSHeader const& header, unsigned char const* packet);
 
-  PidHandler& handler_for(int pid);
+  class SIVANE_LOCAL PidEntry;
   bool is_handled(int pid) const { return handled_[static_cast<std::size_t>(pid)]; }
   void drop_pid(std::map<int, PidHandler*>::iterator entry);
 
   std::bitset<pid_count> handled_;  // which PIDs stand in pid_handlers
   int deliveries_ = 0;              // calls of PidHandler::parse under way
-  // Handlers that a hook removed live on in here until no delivery is under way.
-  std::vector<std::unique_ptr<PSIHandler>> retired_handlers_;
-  std::vector<std::unique_ptr<PidHandler>> retired_pids_;
+  std::uint64_t parsed_ = 0;        // calls of PidHandler::parse so far
+  // Handlers that a hook removed live on until no delivery is under way, each linked to the next: where
+  // memory has run out they can still be put aside.
+  PSIHandler* retired_handlers_ = nullptr;
+  PidHandler* retired_pids_ = nullptr;
 };
 
 /// Assembles the sections of one table id on one PID.
@@ -172,8 +174,11 @@ class SIVANE_API Demux::PSIHandler final : public BaseHandler, public SectionBuf
   int table_id;
 
  private:
+  friend class Demux;
   friend class PidHandler;
+  std::uint64_t added_in_ = 0;  // the call of PidHandler::parse under way or the last one before
   bool removed_ = false;
+  PSIHandler* next_retired_ = nullptr;
 };
 
 /// Assembles every section on one PID and delivers those that its byte filter lets through.
@@ -182,13 +187,18 @@ class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public Sect
   PSIFilterHandler(Demux& owner, unsigned char const* filter_value, unsigned char const* filter_mask,
                    int filter_size, unsigned long filter_id);
   void parse(TSHeader const& header, bool start, unsigned char const* data, int size) override;
-  /// Compares the section from its table id on, the length bytes included.
+  /// Compares the section from its table id on, the length bytes included, and what the last packet brought
+  /// behind it. Bytes that were not brought match only where neither `mask` nor `value` has a bit.
   bool filter_match() const;
 
   unsigned char const* mask;   ///< the host's storage
   unsigned char const* value;  ///< the host's storage
   int size;                    ///< bytes in `mask` and in `value`
   unsigned long id;            ///< the host's number, given back in the hook
+
+ private:
+  friend class PidHandler;
+  std::uint64_t added_in_ = 0;  // as in PSIHandler
 };
 
 /// The handlers of one PID.
@@ -221,6 +231,7 @@ class SIVANE_API Demux::PidHandler {
   void give_to_filters(TSHeader const& header, bool start, unsigned char const* data, int size);
 
   bool removed_ = false;
+  PidHandler* next_retired_ = nullptr;
 };
 
 /// The push driver: the host hands over buffers of whole packets.
@@ -247,6 +258,11 @@ class SIVANE_API DemuxIstream : public Demux {
 };
 
 /// The polling driver: one source for each handled PID, read a packet at a time in turn.
+///
+/// Register first, then call `start`: it reads the PIDs that are registered when it begins. A pass asks
+/// `end_of_input` once and then, in ascending order of the PIDs, calls `read_buf` once for each; `idle` ends
+/// the pass. A source without a packet at hand answers false and is asked again in the next pass; to wait for
+/// one is the business of `idle`.
 class SIVANE_API Demux2 : public Demux {
  public:
   /// Runs until `end_of_input`, whatever `stopped` says, and gives `exit_code`. A packet goes to the handler

@@ -4,19 +4,22 @@
 #include <sivane/foundation/trace_log.h>
 
 #include <array>
+#include <vector>
 
 namespace sivane {
 
 int Demux2::start() {
-  using Packet = std::array<unsigned char, ts_packet_size>;
+  struct Source {
+    int pid;
+    int length = 0;
+    std::array<unsigned char, ts_packet_size> packet = {};
+  };
   // A hook may change the map: the turns are those of the PIDs that are handled now.
-  std::vector<int> pids;
-  for (auto const& [pid, handler] : pid_handlers) pids.push_back(pid);
-  std::vector<Packet> packets(pids.size());
-  std::vector<int> lengths(pids.size());
+  std::vector<Source> sources;
+  for (auto const& [pid, handler] : pid_handlers) sources.push_back({pid});
   while (!end_of_input()) {
-    for (std::size_t i = 0; i < pids.size(); ++i) {
-      if (pid_handlers.count(pids[i]) != 0) poll(pids[i], packets[i].data(), lengths[i]);
+    for (Source& source : sources) {
+      if (pid_handlers.count(source.pid) != 0) poll(source.pid, source.packet.data(), source.length);
     }
     idle();
   }

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <ostream>
+#include <utility>
 
 namespace sivane {
 
@@ -29,16 +31,27 @@ bool is_pes_start(unsigned char const* data, int size) {
 /// Keeps the handlers that a hook removes alive while they are on the call stack.
 class Demux::Delivery {
  public:
-  explicit Delivery(Demux& demux) : demux_(demux) { ++demux_.deliveries_; }
+  explicit Delivery(Demux& demux) : demux_(demux) {
+    ++demux_.deliveries_;
+    ++demux_.parsed_;
+  }
   Delivery(Delivery const&) = delete;
   Delivery& operator=(Delivery const&) = delete;
   ~Delivery() {
     if (--demux_.deliveries_ > 0) return;
-    demux_.retired_handlers_.clear();
-    demux_.retired_pids_.clear();
+    free_all(demux_.retired_handlers_);
+    free_all(demux_.retired_pids_);
   }
 
  private:
+  template <class Handler>
+  static void free_all(Handler*& first) {
+    while (first != nullptr) {
+      Handler* const next = first->next_retired_;
+      delete std::exchange(first, next);
+    }
+  }
+
   Demux& demux_;
 };
 
@@ -67,7 +80,8 @@ void Demux::SectionBuffer::close() {
   in_section = false;
 }
 
-Demux::PSIHandler::PSIHandler(Demux& owner, int id) : BaseHandler(owner), table_id(id) {}
+Demux::PSIHandler::PSIHandler(Demux& owner, int id)
+    : BaseHandler(owner), table_id(id), added_in_(owner.parsed_) {}
 
 void Demux::PSIHandler::parse(TSHeader const& header, bool start, unsigned char const* data, int size) {
   if (!take(start, data, size)) return;
@@ -82,7 +96,12 @@ void Demux::PSIHandler::invalidate() { section_size = 0; }
 Demux::PSIFilterHandler::PSIFilterHandler(Demux& owner, unsigned char const* filter_value,
                                           unsigned char const* filter_mask, int filter_size,
                                           unsigned long filter_id)
-    : BaseHandler(owner), mask(filter_mask), value(filter_value), size(filter_size), id(filter_id) {}
+    : BaseHandler(owner),
+      mask(filter_mask),
+      value(filter_value),
+      size(filter_size),
+      id(filter_id),
+      added_in_(owner.parsed_) {}
 
 void Demux::PSIFilterHandler::parse(TSHeader const& /*header*/, bool start, unsigned char const* data,
                                     int payload_size) {
@@ -96,7 +115,8 @@ void Demux::PSIFilterHandler::parse(TSHeader const& /*header*/, bool start, unsi
 bool Demux::PSIFilterHandler::filter_match() const {
   if (size > capacity) return false;
   for (int i = 0; i < size; ++i) {
-    if ((section[i] & mask[i]) != value[i]) return false;
+    bool const is_held = i < section_size;  // behind them stand bytes of earlier sections
+    if (is_held ? (section[i] & mask[i]) != value[i] : (mask[i] | value[i]) != 0) return false;
   }
   return true;
 }
@@ -123,7 +143,8 @@ void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int s
 void Demux::PidHandler::start_section(TSHeader const& header, unsigned char const* data, int size) {
   if (removed_) return;
   auto const entry = size > 0 ? psi_handlers.find(data[0]) : psi_handlers.end();
-  PSIHandler* handler = entry != psi_handlers.end() ? entry->second : nullptr;
+  bool const is_known = entry != psi_handlers.end() && entry->second->added_in_ < demux.parsed_;
+  PSIHandler* const handler = is_known ? entry->second : nullptr;
   if (handler != nullptr) handler->parse(header, true, data, size);
   current = handler != nullptr && !handler->removed_ ? handler : nullptr;
   give_to_filters(header, true, data, size);
@@ -139,7 +160,7 @@ void Demux::PidHandler::give_to_filters(TSHeader const& header, bool start, unsi
   log_write(3, "checking %d psifilter handlers", static_cast<int>(filter_handlers.size()));
   for (PSIFilterHandler* const filter : filter_handlers) {
     if (removed_) return;
-    filter->parse(header, start, data, size);
+    if (filter->added_in_ < demux.parsed_) filter->parse(header, start, data, size);
   }
 }
 
@@ -162,13 +183,15 @@ void Demux::PidHandler::AddPsiHandler(unsigned char const* value, unsigned char 
 void Demux::PidHandler::RemovePsiHandler(int table_id) {
   auto const entry = psi_handlers.find(table_id);
   if (entry == psi_handlers.end()) return;
-  std::unique_ptr<PSIHandler> handler(entry->second);
+  PSIHandler* const handler = entry->second;
   psi_handlers.erase(entry);
-  if (current == handler.get()) current = nullptr;
-  if (demux.deliveries_ > 0) {
-    handler->removed_ = true;
-    demux.retired_handlers_.push_back(std::move(handler));
+  if (current == handler) current = nullptr;
+  if (demux.deliveries_ == 0) {
+    delete handler;
+    return;
   }
+  handler->removed_ = true;
+  handler->next_retired_ = std::exchange(demux.retired_handlers_, handler);
 }
 
 void Demux::PidHandler::invalidate() {

@@ -8,16 +8,31 @@
 #include <new>
 
 namespace {
+
 std::size_t count = 0;
+std::size_t live = 0;
+int granted = -1;
+
+void release(void* memory) {
+  if (memory != nullptr) --live;
+  std::free(memory);
+}
+
 }  // namespace
 
 std::size_t sivane::testing::allocations() { return count; }
+std::size_t sivane::testing::live_blocks() { return live; }
+void sivane::testing::grant(int requests) { granted = requests; }
 
 // Not inlined, or the compiler sees a free() of what an operator new has given.
 [[gnu::noinline]] void* operator new(std::size_t size) {
   ++count;
-  if (void* const memory = std::malloc(size > 0 ? size : 1)) return memory;
-  throw std::bad_alloc();
+  if (granted == 0) throw std::bad_alloc();
+  if (granted > 0) --granted;
+  void* const memory = std::malloc(size > 0 ? size : 1);
+  if (memory == nullptr) throw std::bad_alloc();
+  ++live;
+  return memory;
 }
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory) noexcept { release(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { release(memory); }

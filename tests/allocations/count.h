@@ -8,6 +8,10 @@ namespace sivane::testing {
 
 /// How often this program has asked for memory so far, the library's own requests included.
 std::size_t allocations();
+/// How many blocks it holds now.
+std::size_t live_blocks();
+/// From now on the first `count` requests are granted and every later one fails; -1 grants all.
+void grant(int count);
 
 template <class Action>
 std::size_t allocations_of(Action action) {

@@ -84,6 +84,17 @@ TEST(Registration, RangesAreNotTested) {
   EXPECT_EQ(delivered(host), 0u);
   for (int const number : {-1, 0, 0x1FFF, 0x2000, 0x12345678}) host.remove_psi_handler(number, number);
   EXPECT_TRUE(host.pid_handlers.empty());
+  EXPECT_EQ(host.push(start_packet(0, section) + start_packet(0x1FFF, section)), 0);
+}
+
+TEST(Registration, AnEntryThatTheHostTookAwayIsNotFollowed) {
+  PushHost host;
+  host.add_psi_handler(pid, 0x42);
+  delete std::exchange(host.pid_handlers.at(pid), nullptr);
+  host.pid_handlers.erase(pid);
+  EXPECT_EQ(delivered(host), 0u);
+  host.add_psi_handler(pid, 0x42);
+  EXPECT_EQ(delivered(host), 1u);
 }
 
 TEST(Registration, DumpListsPidsAndTablesInOrder) {
@@ -124,6 +135,18 @@ TEST(Filter, ComparesMaskedSectionBytesWithTheValue) {
     EXPECT_EQ(host.filtered, c.matches ? (Filtered{{0xFFFFFFFF, section}}) : Filtered())
         << c.value << " under " << c.mask;
     EXPECT_FALSE((*host.of_pid(pid).filter_handlers.begin())->in_section);  // a mismatch ends its section too
+  }
+}
+
+TEST(Filter, BytesOfEarlierSectionsDoNotCount) {
+  for (bool const asks_for_more : {false, true}) {
+    Bytes const value = section + hex(asks_for_more ? "11 00" : "00 00"),
+                mask = Bytes(8, 0xFF) + hex(asks_for_more ? "FF 00" : "00 00");
+    PushHost host;
+    host.add_psi_handler(pid, value.data(), mask.data(), 10, 1);
+    host.push(start_packet(pid, Bytes(183, 0x11)));
+    host.push(exact_packet(pid, true, Bytes{0} + section));
+    EXPECT_EQ(host.filtered.size(), asks_for_more ? 0u : 1u);
   }
 }
 

@@ -95,6 +95,25 @@ TEST_F(Hooks, RegisteringTakesEffectFromTheNextPacket) {
   EXPECT_EQ(host.filtered.size(), 2u);
 }
 
+TEST_F(Hooks, AFilterThatAFiltersHookAddsTakesPartFromTheNextPacket) {
+  host.add_filter(pid, 1);
+  on("filter", [this] { host.add_filter(pid, 1); });
+  for (std::size_t const filters : {1u, 2u, 4u}) {
+    host.forget();
+    host.push(tail);
+    EXPECT_EQ(host.filtered.size(), filters);
+  }
+}
+
+TEST_F(Hooks, ATableAddedBehindATailTakesPartFromTheNextPacket) {
+  Bytes const other = patterned_section(0x46, 30);
+  Bytes const next =
+      make_packet({.pid = pid, .start = true, .payload = Bytes{17} + part(a, 183, 200) + other});
+  on("section", [this] { host.add_psi_handler(pid, 0x46); });
+  host.push(first + next + start_packet(pid, other));
+  EXPECT_EQ(host.sections, (Sections{a, other}));
+}
+
 TEST_F(Hooks, AHandlerRemovedByItsHookGetsNoMoreCalls) {
   host.add_psi_handler(pid, 0x46);  // so that the PID stays
   on("section", [this] { host.remove_psi_handler(pid, 0x42); });

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// A demultiplexer whose host runs out of memory.
+#include <gtest/gtest.h>
+#include <sivane/demux/demux.h>
+
+#include <functional>
+#include <new>
+
+#include "count.h"
+#include "packet_writer.h"
+
+namespace sivane::testing {
+namespace {
+
+constexpr int pid = 0x100;
+
+class HookedHost final : public DemuxPush {
+ public:
+  std::function<void()> hook;
+  int sections = 0;
+  void push(Bytes const& stream) { push_data(stream.data(), static_cast<int>(stream.size())); }
+
+ protected:
+  void on_psi_section(int, int, int, unsigned char const*) override { delivered(); }
+  void on_psi_section(unsigned long, int, unsigned char*) override { delivered(); }
+
+ private:
+  void delivered() {
+    ++sections;
+    hook();
+  }
+};
+
+Bytes const stream =
+    make_packet({.pid = pid, .start = true, .payload = Bytes{0} + make_short_section(0x42, Bytes(9))});
+
+TEST(MemoryOfADemux, IsNotNeededToRemove) {
+  HookedHost host;
+  std::function<void()> const removals[] = {[&] { host.remove_psi_handler(pid, 0x42); },
+                                            [&] { host.reset(); }};
+  for (auto const& removal : removals) {
+    for (bool const stays : {false, true}) {  // the PID, through a second table id
+      host.add_psi_handler(pid, 0x42);
+      host.add_psi_handler(pid, nullptr, nullptr, 0, 1);
+      if (stays) host.add_psi_handler(pid, 0x46);
+      host.hook = [&] {
+        grant(0);
+        removal();
+        grant(-1);
+        host.hook = [] {};
+      };
+      host.sections = 0;
+      host.push(stream + stream);
+      EXPECT_EQ(host.sections, stays && host.pid_handlers.size() == 1 ? 3 : 1);
+      host.reset();
+    }
+  }
+}
+
+TEST(MemoryOfADemux, ComesBackWhenTheDeliveryEnds) {
+  HookedHost host;
+  host.hook = [&] {
+    host.reset();
+    host.add_psi_handler(pid, 0x46);
+    host.remove_psi_handler(pid, 0x46);
+    host.add_psi_handler(pid, 0x42);
+    host.add_psi_handler(pid, 0x46);
+    host.remove_psi_handler(pid, 0x46);
+  };
+  host.add_psi_handler(pid, 0x42);
+  std::size_t const before = live_blocks();
+  host.push(stream + stream + stream);
+  EXPECT_EQ(host.sections, 3);
+  EXPECT_EQ(live_blocks(), before);
+}
+
+TEST(MemoryOfADemux, AFailedRegistrationLeavesNothing) {
+  for (bool const is_filter : {false, true}) {
+    HookedHost host;
+    int granted = 0;
+    for (bool is_done = false; !is_done; ++granted) {
+      std::size_t const before = live_blocks();
+      grant(granted);
+      try {
+        is_filter ? host.add_psi_handler(pid, nullptr, nullptr, 0, 1) : host.add_psi_handler(pid, 0x42);
+        is_done = true;
+      } catch (std::bad_alloc const&) {
+        grant(-1);
+        EXPECT_EQ(live_blocks(), before) << granted;
+        EXPECT_TRUE(host.pid_handlers.empty()) << granted;
+      }
+    }
+    grant(-1);
+    EXPECT_EQ(granted, 5);
+  }
+}
+
+}  // namespace
+}  // namespace sivane::testing
