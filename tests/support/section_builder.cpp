@@ -56,8 +56,8 @@ Bytes operator+(Bytes left, Bytes const& right) {
   return left;
 }
 
-std::uint32_t slow_crc(Bytes const& bytes) {
-  std::uint32_t crc = 0xFFFFFFFF;
+std::uint32_t slow_crc(Bytes const& bytes, std::uint32_t start) {
+  std::uint32_t crc = start;
   for (unsigned char const byte : bytes) {
     for (int bit = 7; bit >= 0; --bit) {
       bool const carry = (crc >> 31) != (byte >> bit & 1u);

@@ -17,7 +17,7 @@ Bytes hex(std::string_view text);
 Bytes operator+(Bytes left, Bytes const& right);
 
 /// CRC_32 bit by bit, on purpose by other means than the library's.
-std::uint32_t slow_crc(Bytes const& bytes);
+std::uint32_t slow_crc(Bytes const& bytes, std::uint32_t start = 0xFFFFFFFF);
 
 /// Puts the CRC of all other bytes into the last four.
 void repair_crc(Bytes& section);

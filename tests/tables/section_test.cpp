@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The checksum and the frames of long-form and short-form sections, through tables of the test's own.
+// The frames of long-form and short-form sections, through tables of the test's own.
 #include <gtest/gtest.h>
-#include <sivane/tables/crc.h>
 #include <sivane/tables/section.h>
 
 #include <cstdint>
-#include <random>
 #include <sstream>
 
 #include "expect_error.h"
@@ -15,16 +13,6 @@
 
 namespace sivane::testing {
 namespace {
-
-TEST(Crc, AgreesWithTheSlowWayForEveryLength) {
-  EXPECT_EQ(slow_crc(hex("31 32 33 34 35 36 37 38 39")), 0x0376E6E7u);
-  std::mt19937 random(1);
-  for (std::size_t size = 0; size <= 100; ++size) {
-    Bytes bytes(size);
-    for (unsigned char& byte : bytes) byte = static_cast<unsigned char>(random());
-    ASSERT_EQ(crc_register(HeapBlock(bytes).data(), size), slow_crc(bytes)) << size;
-  }
-}
 
 /// A table that refuses what `refused` names, and notes what its hooks are asked.
 template <class Frame>
