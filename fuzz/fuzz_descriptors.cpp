@@ -29,15 +29,13 @@ void exercise(std::ostringstream& text, std::vector<Descriptor> const& descripto
 
 void exercise(sivane::DescriptorSet const& set) {
   std::ostringstream text;
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) exercise(text, set.getter());
-#define SIVANE_GENERAL_ROW(kind, getter, element) exercise(text, set.getter());
+#define SIVANE_ROW(tag, Class, getter, element) exercise(text, set.getter());
 #include <sivane/descriptors/descriptor_rows.inc>
 }
 
 void exercise(sivane::AitDescriptorSet const& set) {
   std::ostringstream text;
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) exercise(text, set.getter());
-#define SIVANE_GENERAL_ROW(kind, getter, element) exercise(text, set.getter());
+#define SIVANE_ROW(tag, Class, getter, element) exercise(text, set.getter());
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 }
 

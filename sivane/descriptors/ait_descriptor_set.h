@@ -31,8 +31,7 @@ class SIVANE_API AitDescriptorSet {
   /// As `DescriptorSet::_parse_descriptors`.
   bool _parse_descriptors(void* node);
 
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) std::vector<Class> const& getter() const;
-#define SIVANE_GENERAL_ROW(kind, getter, element) std::vector<DescriptorGeneral> const& getter() const;
+#define SIVANE_ROW(tag, Class, getter, element) std::vector<Class> const& getter() const;
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 
  private:

@@ -46,8 +46,7 @@ class SIVANE_API DescriptorSet {
 
   // The vectors: `get_CA_descriptors()`, `get_short_event_descriptors()` and so on; empty where none was
   // filed. A reference is good until the set changes.
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) std::vector<Class> const& getter() const;
-#define SIVANE_GENERAL_ROW(kind, getter, element) std::vector<DescriptorGeneral> const& getter() const;
+#define SIVANE_ROW(tag, Class, getter, element) std::vector<Class> const& getter() const;
 #include <sivane/descriptors/descriptor_rows.inc>
 
  private:

@@ -7,11 +7,15 @@
 
 namespace sivane {
 
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) SIVANE_ODD(tag, Class, getter, element, element)
+#define SIVANE_ODD(tag, Class, getter, element, tag_text) \
   char const* Class::get_tag_text() const { return tag_text; }
 #include <sivane/descriptors/descriptor_rows.inc>
 
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) SIVANE_ODD(tag, Class, getter, element, element)
+#define SIVANE_ODD(tag, Class, getter, element, tag_text) \
   char const* Class::get_tag_text() const { return tag_text; }
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 

@@ -35,13 +35,12 @@ void load_into_row(DescriptorGroups& groups, int row, void* node) {
   DescriptorStorage::append(groups, row, std::move(descriptor));
 }
 
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) {u"" element, &load_into_row<Class>},
-#define SIVANE_GENERAL_ROW(kind, getter, element) {u"" element, &load_into_row<DescriptorGeneral>},
+#define SIVANE_ELEMENT_ROW(tag, Class, getter, element) {u"" element, &load_into_row<Class>},
+#define SIVANE_ROW SIVANE_ELEMENT_ROW
 constexpr ElementRow rows[] = {
 #include <sivane/descriptors/descriptor_rows.inc>
 };
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) {u"" element, &load_into_row<Class>},
-#define SIVANE_GENERAL_ROW(kind, getter, element) {u"" element, &load_into_row<DescriptorGeneral>},
+#define SIVANE_ROW SIVANE_ELEMENT_ROW
 constexpr ElementRow ait_rows[] = {
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 };

@@ -23,9 +23,11 @@ constexpr bool is_plain_value =
         std::is_copy_assignable_v<Descriptor>&& std::is_base_of_v<DescriptorBase, Descriptor>&&
             std::is_constructible_v<Descriptor, unsigned char const*>;
 static_assert(is_plain_value<DescriptorGeneral>);
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) static_assert(is_plain_value<Class>);
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) static_assert(is_plain_value<Class>);
 #include <sivane/descriptors/descriptor_rows.inc>
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) \
   static_assert(is_plain_value<Class> && std::is_base_of_v<DescriptorAitBase, Class>);
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 

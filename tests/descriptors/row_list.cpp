@@ -114,10 +114,7 @@ template <>
 std::vector<RowOf<DescriptorSet>> const& row_list() {
   using Set = DescriptorSet;
   static std::vector<RowOf<Set>> const rows = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  make_row<Set, Class, &Set::getter>(tag, #getter, u"" element),
-#define SIVANE_GENERAL_ROW(kind, getter, element) \
-  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter, u"" element),
+#define SIVANE_ROW(tag, Class, getter, element) make_row<Set, Class, &Set::getter>(tag, #getter, u"" element),
 #include <sivane/descriptors/descriptor_rows.inc>
   };
   return rows;
@@ -127,10 +124,7 @@ template <>
 std::vector<RowOf<AitDescriptorSet>> const& row_list() {
   using Set = AitDescriptorSet;
   static std::vector<RowOf<Set>> const rows = {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  make_row<Set, Class, &Set::getter>(tag, #getter, nullptr),
-#define SIVANE_GENERAL_ROW(kind, getter, element) \
-  make_row<Set, DescriptorGeneral, &Set::getter>(kind, #getter, nullptr),
+#define SIVANE_ROW(tag, Class, getter, element) make_row<Set, Class, &Set::getter>(tag, #getter, nullptr),
 #include <sivane/descriptors/ait_descriptor_rows.inc>
   };
   return rows;

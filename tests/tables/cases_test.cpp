@@ -36,16 +36,14 @@ void add_tags(std::string& text, std::vector<Descriptor> const& descriptors) {
 
 std::string tags(DescriptorSet const& set) {
   std::string text;
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) add_tags(text, set.getter());
-#define SIVANE_GENERAL_ROW(kind, getter, element) add_tags(text, set.getter());
+#define SIVANE_ROW(tag, Class, getter, element) add_tags(text, set.getter());
 #include <sivane/descriptors/descriptor_rows.inc>
   return text;
 }
 
 std::string tags(AitDescriptorSet const& set) {
   std::string text;
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) add_tags(text, set.getter());
-#define SIVANE_GENERAL_ROW(kind, getter, element) add_tags(text, set.getter());
+#define SIVANE_ROW(tag, Class, getter, element) add_tags(text, set.getter());
 #include <sivane/descriptors/ait_descriptor_rows.inc>
   return text;
 }

@@ -58,8 +58,9 @@ using Check = void (*)(Bytes const&);
 
 Check check_of_dvb(int tag) {
   switch (tag) {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  case tag:                                               \
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) \
+  case tag:                                     \
     return check<Class>;
 #include <sivane/descriptors/descriptor_rows.inc>
     default:
@@ -69,8 +70,9 @@ Check check_of_dvb(int tag) {
 
 Check check_of_ait(int tag) {
   switch (tag) {
-#define SIVANE_ROW(tag, Class, getter, element, tag_text) \
-  case tag:                                               \
+#define SIVANE_GENERAL_ROW(kind, getter, element)
+#define SIVANE_ROW(tag, Class, getter, element) \
+  case tag:                                     \
     return check<Class>;
 #include <sivane/descriptors/ait_descriptor_rows.inc>
     default:
