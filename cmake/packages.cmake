@@ -1,4 +1,4 @@
-# What is installed, and the Debian packages that cpack makes of it: libsivane0 (component runtime), libsivane-dev
+# What is installed, and the Debian packages that cpack makes of it: libsivane0.1 (component runtime), libsivane-dev
 # (development), libsivane-dom-dev (dom) and sivane-inspect (inspect). Configure with `--install-prefix /usr` for
 # packages, so that the library goes where the distribution keeps its own.
 include(CMakePackageConfigHelpers)
@@ -19,7 +19,7 @@ endif()
 
 configure_package_config_file(cmake/sivaneConfig.cmake.in ${PROJECT_BINARY_DIR}/sivaneConfig.cmake
   INSTALL_DESTINATION ${SIVANE_CMAKE_DIR})
-write_basic_package_version_file(${PROJECT_BINARY_DIR}/sivaneConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/sivaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/sivaneConfig.cmake ${PROJECT_BINARY_DIR}/sivaneConfigVersion.cmake
   DESTINATION ${SIVANE_CMAKE_DIR} COMPONENT development)
 
@@ -33,15 +33,23 @@ if(TARGET sivane_dom)
   install(FILES ${PROJECT_BINARY_DIR}/sivane-dom.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dom)
 endif()
 
-# sivane_component(COMPONENT PACKAGE DESCRIPTION): the Debian package of a component, with its copyright file.
+set(SIVANE_PACKAGE_CONTACT "The sivane authors <sivane@sivane.invalid>" CACHE STRING
+  "Who answers for the packages: a name and an address")
+include(cmake/debian_changelog.cmake)
+
+# sivane_component(COMPONENT PACKAGE DESCRIPTION): the Debian package of a component, with its copyright and changelog.
 function(sivane_component component package description)
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${package} PARENT_SCOPE)
   set(CPACK_COMPONENT_${upper}_DESCRIPTION ${description} PARENT_SCOPE)
-  install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} RENAME copyright COMPONENT ${component})
+  set(documents ${CMAKE_INSTALL_DATADIR}/doc/${package})
+  install(FILES LICENSE DESTINATION ${documents} RENAME copyright COMPONENT ${component})
+  if(EXISTS ${SIVANE_DEBIAN_CHANGELOG})
+    install(FILES ${SIVANE_DEBIAN_CHANGELOG} DESTINATION ${documents} RENAME changelog.gz COMPONENT ${component})
+  endif()
 endfunction()
 
-set(SIVANE_RUNTIME_PACKAGE libsivane${PROJECT_VERSION_MAJOR})
+set(SIVANE_RUNTIME_PACKAGE libsivane${SIVANE_INTERFACE})
 sivane_component(runtime ${SIVANE_RUNTIME_PACKAGE} "The shared library.")
 sivane_component(development libsivane-dev "Headers, the CMake package and the pkg-config file.")
 set(CPACK_COMPONENTS_ALL runtime development)
@@ -57,7 +65,7 @@ endif()
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "the sivane authors")
-set(CPACK_PACKAGE_CONTACT "the sivane authors")
+set(CPACK_PACKAGE_CONTACT "${SIVANE_PACKAGE_CONTACT}")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_GROUPING IGNORE)
@@ -66,7 +74,12 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DOM_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_INSPECT_PACKAGE_SECTION utils)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+# A host's package asks for a library at least as new as that it was linked with; an older interface has another name.
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+file(WRITE ${PROJECT_BINARY_DIR}/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/triggers)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_INSPECT_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/sivane)
