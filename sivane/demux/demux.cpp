@@ -61,14 +61,15 @@ class Demux::PidEntry {
     auto handler = std::make_unique<PidHandler>(demux_);
     entry_ = demux_.pid_handlers.emplace(pid, handler.get()).first;
     handler.release();
-    if (0 <= pid && pid < pid_count) demux_.handled_.set(static_cast<std::size_t>(pid));
+    ++demux_.registered_;
+    if (0 <= pid && pid < pid_count) demux_.handlers_[static_cast<std::size_t>(pid)] = entry_->second;
   }
 
   Demux& demux_;
   std::map<int, PidHandler*>::iterator entry_;
 };
 
-Demux::Demux() = default;
+Demux::Demux() : handlers_(std::make_unique<PidHandler*[]>(pid_count)) {}
 
 Demux::~Demux() { reset(); }
 
@@ -124,12 +125,19 @@ int Demux::start() {
   return exit_code;
 }
 
+/// The PID is that of a packet. A handler that the host has erased from the map is not followed.
+inline Demux::PidHandler* Demux::find_handler(int pid) const {
+  PidHandler* const handler = handlers_[static_cast<std::size_t>(pid)];
+  if (handler == nullptr || pid_handlers.size() == registered_) return handler;
+  auto const entry = pid_handlers.find(pid);
+  return entry != pid_handlers.end() ? entry->second : nullptr;
+}
+
 void Demux::route_packet(unsigned char const* packet) {
   TSHeader header(packet);
   Payload const payload = show_packet(header, packet);
-  if (!is_handled(header.pid)) return;
-  auto const entry = pid_handlers.find(header.pid);  // a host may have taken it away by itself
-  if (entry != pid_handlers.end()) entry->second->parse(header, payload.data, payload.size);
+  if (PidHandler* const handler = find_handler(header.pid))
+    handler->parse(header, payload.data, payload.size);
 }
 
 Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* packet) {
@@ -147,7 +155,8 @@ Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* p
 void Demux::drop_pid(std::map<int, PidHandler*>::iterator entry) {
   auto const [pid, handler] = *entry;
   pid_handlers.erase(entry);
-  if (0 <= pid && pid < pid_count) handled_.reset(static_cast<std::size_t>(pid));
+  --registered_;
+  if (0 <= pid && pid < pid_count) handlers_[static_cast<std::size_t>(pid)] = nullptr;
   if (deliveries_ == 0) {
     delete handler;
     return;

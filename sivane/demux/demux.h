@@ -4,11 +4,11 @@
 
 #include <sivane/foundation/export.h>
 
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <map>
+#include <memory>
 #include <set>
 
 namespace sivane {
@@ -24,6 +24,9 @@ inline constexpr unsigned char ts_sync_byte = 0x47;
 /// that you want, register with `add_psi_handler`, and run the driver. Everything runs on the caller's
 /// thread; an object belongs to one thread at a time. An exception that a hook throws leaves through the
 /// driver untouched.
+///
+/// An object takes 64 KiB and each handler of it 8 KiB, used or not. Objects share nothing: one for each
+/// stream, on as many threads.
 ///
 /// Of each packet the first section that starts in it is assembled, and error, scrambling and continuity bits
 /// are not looked at: a lost packet shows up as a wrong CRC in the section that it was part of.
@@ -150,12 +153,13 @@ class SIVANE_API Demux {
   Payload show_packet(TSHeader const& header, unsigned char const* packet);
 
   class SIVANE_LOCAL PidEntry;
-  bool is_handled(int pid) const { return handled_[static_cast<std::size_t>(pid)]; }
+  PidHandler* find_handler(int pid) const;
   void drop_pid(std::map<int, PidHandler*>::iterator entry);
 
-  std::bitset<pid_count> handled_;  // which PIDs stand in pid_handlers
-  int deliveries_ = 0;              // calls of PidHandler::parse under way
-  std::uint64_t parsed_ = 0;        // calls of PidHandler::parse so far
+  std::unique_ptr<PidHandler*[]> handlers_;  // of the PIDs that a packet can have, found at once
+  std::size_t registered_ = 0;               // PIDs in pid_handlers, unless the host took some away by itself
+  int deliveries_ = 0;                       // calls of PidHandler::parse under way
+  std::uint64_t parsed_ = 0;                 // calls of PidHandler::parse so far
   // Handlers that a hook removed live on until no delivery is under way, each linked to the next: where
   // memory has run out they can still be put aside.
   PSIHandler* retired_handlers_ = nullptr;

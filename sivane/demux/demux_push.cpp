@@ -7,7 +7,7 @@ namespace sivane {
 
 namespace {
 /// A stream larger than the caches is waited for; asking this early costs nothing where it is not.
-constexpr int prefetch_distance = 16 * ts_packet_size;
+constexpr int prefetch_distance = 32 * ts_packet_size;
 }  // namespace
 
 int DemuxPush::push_data(unsigned char const* data, int size) {

@@ -9,9 +9,11 @@
 
 namespace {
 
-std::size_t count = 0;
-std::size_t live = 0;
-int granted = -1;
+// Of the calling thread, so that threads of a benchmark do not wait for each other.
+thread_local std::size_t count = 0;
+thread_local std::size_t bytes = 0;
+thread_local std::size_t live = 0;
+thread_local int granted = -1;
 
 void release(void* memory) {
   if (memory != nullptr) --live;
@@ -21,6 +23,7 @@ void release(void* memory) {
 }  // namespace
 
 std::size_t sivane::testing::allocations() { return count; }
+std::size_t sivane::testing::requested_bytes() { return bytes; }
 std::size_t sivane::testing::live_blocks() { return live; }
 void sivane::testing::grant(int requests) { granted = requests; }
 
@@ -31,6 +34,7 @@ void sivane::testing::grant(int requests) { granted = requests; }
   if (granted > 0) --granted;
   void* const memory = std::malloc(size > 0 ? size : 1);
   if (memory == nullptr) throw std::bad_alloc();
+  bytes += size;
   ++live;
   return memory;
 }

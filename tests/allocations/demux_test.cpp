@@ -36,6 +36,16 @@ class HookedHost final : public DemuxPush {
 Bytes const stream =
     make_packet({.pid = pid, .start = true, .payload = Bytes{0} + make_short_section(0x42, Bytes(9))});
 
+TEST(MemoryOfADemux, IsWhatIsStated) {
+  std::size_t const before = requested_bytes();
+  HookedHost host;
+  std::size_t const of_the_object = requested_bytes() - before + sizeof(Demux);
+  EXPECT_GE(of_the_object, 64u * 1024);
+  EXPECT_LE(of_the_object, 64u * 1024 + 256);
+  host.add_psi_handler(pid, 0x42);
+  EXPECT_LE(requested_bytes() - before, of_the_object + 8192 + 512);  // the PID and a handler
+}
+
 TEST(MemoryOfADemux, IsNotNeededToRemove) {
   HookedHost host;
   std::function<void()> const removals[] = {[&] { host.remove_psi_handler(pid, 0x42); },
