@@ -3,12 +3,15 @@
 //
 // The snippets of docs/guide.md in one program, run over the stream that it is given.
 #include <sivane/dom/document.h>
+#include <sivane/dom/element_reader.h>
+#include <sivane/dom/element_writer.h>
 #include <sivane/sivane.h>
 
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -105,6 +108,21 @@ sivane::Pat from_document(std::string const& text) {
   return pat;
 }
 
+void write_programs(std::ostream& out, std::vector<sivane::Pat> const& pats) {
+  sivane::dom::ElementWriter writer(out, "sections");
+  for (sivane::Pat const& pat : pats) {
+    writer.write("Pat", [&](auto* document, auto* element) { pat.SaveSection(document, element); });
+  }
+  writer.finish();
+}
+
+std::vector<sivane::Pat> read_programs(std::istream& in) {
+  std::vector<sivane::Pat> pats;
+  sivane::dom::ElementReader reader(in);
+  while (auto const node = reader.next()) pats.emplace_back().Parse(node.get());
+  return pats;
+}
+
 // Registered names
 
 void print_scrambling(sivane::DescriptorCa const& ca) {
@@ -130,7 +148,10 @@ int main(int argc, char** argv) {
 
   sivane::Pat pat;
   pat.program_infos.resize(2);
-  bool const survives = from_document(as_document(pat)).program_infos.size() == 2;
+  std::stringstream programs;
+  write_programs(programs, {pat, pat});
+  bool const survives =
+      from_document(as_document(pat)).program_infos.size() == 2 && read_programs(programs).size() == 2;
 
   sivane::init();
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};

@@ -1,33 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/dom/characters.h>
 #include <sivane/dom/document.h>
 #include <sivane/dom/nodes.h>
-#include <sivane/dom/tree.h>
-#include <sivane/foundation/error.h>
+#include <sivane/dom/refusal.h>
+#include <sivane/dom/tree_builder.h>
+#include <sivane/dom/writer.h>
 
 #include <array>
-#include <cerrno>
 #include <fstream>
-#include <system_error>
 
 namespace sivane::dom {
 
 namespace {
-
-constexpr std::size_t max_size = 64 << 20;
-
-std::string system_reason() { return std::generic_category().message(errno); }
-
-/// Runs `step`; its failures say in front what they hindered.
-template <class Step>
-auto explained(std::string const& task, Step step) {
-  try {
-    return step();
-  } catch (error const& failure) {
-    throw error(("cannot " + task + ": " + failure.what()).c_str());
-  }
-}
 
 /// Stops behind the first byte too many.
 std::string content_of(std::string const& path) {
@@ -43,7 +27,7 @@ std::string content_of(std::string const& path) {
 }
 
 void read_checked(std::string_view text, Tree& tree) {
-  if (text.size() > max_size) throw error(("more than " + std::to_string(max_size >> 20) + " MiB").c_str());
+  if (text.size() > max_size) throw error(too_large().c_str());
   read(text, tree);
 }
 
@@ -85,7 +69,7 @@ std::string Document::save_string() const {
 
 CComPtr<IXMLDOMElement> Document::make_root(std::string const& name) {
   if (tree_->root()) throw error("the document has a root element already");
-  if (!is_name(name)) throw error(("no name for an element: \"" + name + '"').c_str());
+  check_name(name);
   return element_node(tree_, append_element(tree_->document, name.c_str()));
 }
 

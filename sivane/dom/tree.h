@@ -42,12 +42,4 @@ struct Tree {
   pugi::xml_node unplaced = append_element(store, "unplaced");  ///< elements that nobody has appended yet
 };
 
-constexpr int max_levels = 64;
-
-/// Fills an empty tree from the text of a document. Throws `error`; its message begins with the line.
-void read(std::string_view text, Tree& tree);
-
-/// The text of the document. Throws `error` unless `read` would take it.
-std::string write(Tree const& tree);
-
 }  // namespace sivane::dom

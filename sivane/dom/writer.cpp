@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-//
-// From the tree of a document to its text.
-#include <sivane/dom/tree.h>
-#include <sivane/foundation/error.h>
+#include <sivane/dom/refusal.h>
+#include <sivane/dom/writer.h>
 
 namespace sivane::dom {
 
@@ -11,17 +9,24 @@ namespace {
 
 class StringWriter final : public pugi::xml_writer {
  public:
+  explicit StringWriter(std::string& text) : text_(text) {}
   void write(void const* data, std::size_t size) override {
-    text.append(static_cast<char const*>(data), size);
+    text_.append(static_cast<char const*>(data), size);
   }
 
-  std::string text;
+ private:
+  std::string& text_;
 };
+
+void append(std::string& text, pugi::xml_node node, int levels_above) {
+  StringWriter writer(text);
+  node.print(writer, "  ", pugi::format_indent, pugi::encoding_utf8, static_cast<unsigned int>(levels_above));
+}
 
 /// Whether elements stand within each other deeper than the reader takes them. Without recursion, since a
 /// tree that was built may have any depth.
-bool is_too_deep(pugi::xml_node root) {
-  int level = 1;
+bool is_too_deep(pugi::xml_node root, int levels_above) {
+  int level = levels_above + 1;
   for (pugi::xml_node node = root; node;) {
     if (level > max_levels && node.type() == pugi::node_element) return true;
     if (pugi::xml_node const child = node.first_child()) {
@@ -38,17 +43,24 @@ bool is_too_deep(pugi::xml_node root) {
   return false;
 }
 
+pugi::xml_node checked_root(Tree const& tree, int levels_above) {
+  pugi::xml_node const root = tree.root();
+  if (!root) throw error("there is no root element");
+  if (is_too_deep(root, levels_above)) throw error(too_many_levels().c_str());
+  return root;
+}
+
 }  // namespace
 
 std::string write(Tree const& tree) {
-  pugi::xml_node const root = tree.root();
-  if (!root) throw error("there is no root element");
-  if (is_too_deep(root)) throw error(("more than " + std::to_string(max_levels) + " levels").c_str());
-  StringWriter writer;
-  writer.text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
-  for (pugi::xml_node const node : tree.document)
-    node.print(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
-  return std::move(writer.text);
+  checked_root(tree, 0);
+  std::string text = declaration;
+  for (pugi::xml_node const node : tree.document) append(text, node, 0);
+  return text;
+}
+
+void append_root(std::string& text, Tree const& tree, int levels_above) {
+  append(text, checked_root(tree, levels_above), levels_above);
 }
 
 }  // namespace sivane::dom
