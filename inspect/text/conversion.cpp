@@ -8,7 +8,10 @@
 #include <bit>
 #include <cerrno>
 #include <cstdint>
+#include <new>
 #include <vector>
+
+#include "text/utf8.h"
 
 namespace inspect {
 
@@ -18,7 +21,11 @@ constexpr char const* unicode = std::endian::native == std::endian::little ? "UT
 
 class Converter {
  public:
-  Converter(std::string const& to, std::string const& from) : handle_(iconv_open(to.c_str(), from.c_str())) {}
+  /// Is not open where the system does not have one of the encodings.
+  Converter(std::string const& to, std::string const& from) : handle_(iconv_open(to.c_str(), from.c_str())) {
+    if (!is_open() && errno != EINVAL)
+      throw std::bad_alloc();  // or too many open files: not the encoding's fault
+  }
   Converter(Converter const&) = delete;
   Converter& operator=(Converter const&) = delete;
   ~Converter() {
@@ -76,11 +83,26 @@ std::string convert_all(std::string_view text, std::string const& to, std::strin
   return converted;
 }
 
-}  // namespace
+/// Characters as long as they are ASCII, which needs no converter: those of most texts, of every encoding
+/// here but the wide ones. The rest of the text is left.
+std::u32string take_ascii(std::string_view& text) {
+  auto const end = std::ranges::find_if(text, [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+  std::u32string taken(text.begin(), end);
+  text.remove_prefix(taken.size());
+  return taken;
+}
 
-StandIn unknown_byte(std::string_view) { return {1, U"\uFFFD"}; }
+std::u32string from_utf8(std::string_view text) {
+  std::u32string characters;
+  while (!text.empty()) {
+    Utf8 const next = first_of_utf8(text);
+    characters += next.is_valid ? next.character : U'\uFFFD';
+    text.remove_prefix(next.size);
+  }
+  return characters;
+}
 
-std::u32string to_unicode(std::string_view text, std::string const& encoding, FindStandIn stand_in) {
+std::u32string by_iconv(std::string_view text, std::string const& encoding, FindStandIn stand_in) {
   std::string const bytes =
       convert_all(text, unicode, encoding, [stand_in](std::string_view rest, std::string& converted) {
         StandIn const found = stand_in(rest);
@@ -92,7 +114,25 @@ std::u32string to_unicode(std::string_view text, std::string const& encoding, Fi
   return converted;
 }
 
+}  // namespace
+
+StandIn unknown_byte(std::string_view) { return {1, U"\uFFFD"}; }
+
+std::u32string to_unicode(std::string_view text, std::string const& encoding, FindStandIn stand_in) {
+  if (encoding == "UTF-8") return from_utf8(text);
+  bool const is_wide = encoding.starts_with("UTF-16");
+  std::u32string converted = is_wide ? std::u32string() : take_ascii(text);
+  return text.empty() ? converted : converted + by_iconv(text, encoding, stand_in);
+}
+
 std::string from_unicode(std::u32string_view text, std::string const& encoding) {
+  bool const is_ascii = std::ranges::all_of(text, [](char32_t c) { return c < 0x80; });
+  if (is_ascii) return {text.begin(), text.end()};
+  if (encoding == "UTF-8") {
+    std::string converted;
+    for (char32_t const c : text) append_utf8(converted, c);
+    return converted;
+  }
   return convert_all(bytes_of(text), encoding, unicode, [](std::string_view, std::string& converted) {
     converted += '?';
     return sizeof(char32_t);
