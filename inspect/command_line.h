@@ -3,21 +3,14 @@
 #pragma once
 
 #include <optional>
-#include <string>
-#include <vector>
 
-#include "command_list.h"
-#include "input/ts_input.h"
+#include "options.h"
+
+namespace CLI {
+class App;
+}
 
 namespace inspect {
-
-/// What the user asked for.
-struct Options {
-  CommandRow const* command = nullptr;
-  Input input = Input::ts;
-  std::vector<Handle> handles;  ///< empty: the usual ones
-  std::string file;             ///< "-" is standard input
-};
 
 /// Either options to run with, or the status to leave with: help was printed, or a fault reported.
 struct CommandLine {
@@ -26,5 +19,9 @@ struct CommandLine {
 };
 
 CommandLine read_command_line(int argc, char** argv);
+
+/// The table of commands and options, which the manual page and the shells' completions are made from as
+/// well.
+void add_commands(CLI::App& app, Arguments& arguments);
 
 }  // namespace inspect

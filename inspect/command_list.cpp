@@ -14,13 +14,13 @@ namespace inspect {
 namespace {
 
 template <class Class>
-std::unique_ptr<Command> make(std::ostream& out) {
-  return std::make_unique<Class>(out);
+std::unique_ptr<Command> make(Showing const& showing) {
+  return std::make_unique<Class>(showing);
 }
 
-constexpr Input all_inputs[] = {Input::ts, Input::sections, Input::xml};
+constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Input::xml};
 constexpr std::span<Input const> any = all_inputs;
-constexpr std::span<Input const> bytes = any.first(2);
+constexpr std::span<Input const> bytes = any.first(3);
 
 constexpr CommandRow rows[] = {
     {"dump", "Print every section as text", any, make<DumpCommand>},
@@ -37,7 +37,7 @@ constexpr CommandRow rows[] = {
 std::span<CommandRow const> command_list() { return rows; }
 
 std::string_view name_of(Input input) {
-  constexpr std::string_view names[] = {"ts", "sections", "xml"};
+  constexpr std::string_view names[] = {"ts", "packets", "sections", "xml"};
   return names[static_cast<int>(input)];
 }
 

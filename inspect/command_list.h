@@ -2,7 +2,6 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -11,11 +10,11 @@
 
 namespace inspect {
 
-enum class Input { ts, sections, xml };
+enum class Input { ts, packets, sections, xml };
 
 /// A subcommand. The constructor asks for every part of it, so that none can be left out.
 struct CommandRow {
-  using Make = std::unique_ptr<Command>(std::ostream& out);
+  using Make = std::unique_ptr<Command>(Showing const& showing);
 
   constexpr CommandRow(char const* its_name, char const* its_help, std::span<Input const> its_inputs,
                        Make& its_make)

@@ -4,11 +4,10 @@
 
 #include <sivane/sivane.h>
 
-#include <iostream>
+#include "commands/failure_text.h"
+#include "console.h"
 
 namespace inspect {
-
-void report(std::string_view reason) { std::cerr << "sivane-inspect: " << reason << '\n'; }
 
 void Command::take(Section const& section) {
   ++number_;
@@ -17,13 +16,13 @@ void Command::take(Section const& section) {
 
 void Command::take_broken(char const* reason) {
   ++number_;
-  refuse(reason);
+  refuse({}, reason);
 }
 
 std::unique_ptr<Table> Command::table_of(Section const& section) {
   TableClass const* const table_class = class_of(section);
   if (table_class == nullptr) {
-    refuse("no class for table id");
+    refuse(section, "no class for table id");
     return nullptr;
   }
   std::unique_ptr<Table> table = table_class->make();
@@ -34,21 +33,18 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
       table->parse(section.bytes);
     }
   } catch (sivane::error const& failure) {
-    fail({table_class->name, failure.code, failure.what()});
+    fail(section, {table_class->name, failure.code, failure.what()});
     return nullptr;
   }
   return table;
 }
 
-void Command::fail(Failure const& failure) {
+void Command::fail(Section const& section, Failure const& failure) {
   ++failures_;
   show_failure(failure);
-  std::string line = "section " + std::to_string(number_) + " (" + std::string(failure.class_name) +
-                     "): error " + std::to_string(failure.code);
-  if (!failure.what.empty()) line += ": " + failure.what;
-  report(line);
+  report("section " + grouped(number_) + ": " + failure_text(section, failure));
 }
 
-void Command::refuse(char const* reason) { fail({"-", -1, reason}); }
+void Command::refuse(Section const& section, char const* reason) { fail(section, {"-", -1, reason}); }
 
 }  // namespace inspect

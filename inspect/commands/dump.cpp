@@ -4,15 +4,18 @@
 
 #include <sstream>
 
+#include "text/visible.h"
+
 namespace inspect {
 
 void DumpCommand::show(Section const& section) {
   std::unique_ptr<Table> const table = table_of(section);
   if (!table) return;
-  std::ostringstream text;  // a dump leaves its stream's base and fill changed
+  std::ostringstream text;            // a dump leaves its stream's base and fill changed
+  text.exceptions(std::ios::badbit);  // a stream that lacks memory would leave out lines and say nothing
   table->dump(text);
   show_title(class_of(section)->name);
-  out_ << text.str();
+  out_ << (is_terminal_ ? visible(text.str()) : text.str());
 }
 
 void DumpCommand::show_failure(Failure const& failure) {

@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
+#include <ostream>
 
 #include "commands/command.h"
 
@@ -11,7 +11,7 @@ namespace inspect {
 /// Shows every section as the library's own text dump.
 class DumpCommand final : public Command {
  public:
-  explicit DumpCommand(std::ostream& out) : out_(out) {}
+  explicit DumpCommand(Showing const& showing) : out_(showing.out), is_terminal_(showing.is_terminal) {}
 
  private:
   void show(Section const& section) override;
@@ -19,6 +19,7 @@ class DumpCommand final : public Command {
   void show_title(std::string_view class_name);
 
   std::ostream& out_;
+  bool is_terminal_;
 };
 
 }  // namespace inspect

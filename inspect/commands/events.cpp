@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "commands/raw_events.h"
+#include "console.h"
 #include "text/dvb_text.h"
 #include "text/terminal.h"
 
@@ -83,7 +84,7 @@ void EventsCommand::finish() {
                  plain(key.first.service) + (name.empty() ? U"" : U" " + name), event.name});
   }
   if (columns.empty()) {
-    report("no event is announced");
+    note("no event is announced");
   } else {
     columns.print(out_);
   }

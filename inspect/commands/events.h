@@ -4,8 +4,8 @@
 
 #include <sivane/tables/eit.h>
 
-#include <iosfwd>
 #include <map>
+#include <ostream>
 #include <utility>
 
 #include "commands/command.h"
@@ -16,7 +16,7 @@ namespace inspect {
 /// Lists the events that the EITs announce, by service and time.
 class EventsCommand final : public Command {
  public:
-  explicit EventsCommand(std::ostream& out) : out_(out) {}
+  explicit EventsCommand(Showing const& showing) : out_(showing.out) {}
   void finish() override;
 
  private:

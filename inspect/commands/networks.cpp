@@ -8,6 +8,7 @@
 #include <ostream>
 #include <sstream>
 
+#include "console.h"
 #include "text/dvb_text.h"
 #include "text/names.h"
 #include "text/terminal.h"
@@ -32,7 +33,13 @@ void write(std::ostream& text, sivane::DescriptorCableDeliverySystem const& d) {
 }
 
 void write(std::ostream& text, sivane::DescriptorTerrestrialDeliverySystem const& d) {
-  text << "terrestrial " << static_cast<double>(d.centre_frequency) * hertz_in_units_of_ten / 1e6 << " MHz";
+  constexpr unsigned long undefined =
+      0xFFFFFFFF;  // where a list of frequencies tells (ETSI EN 300 468, 6.2.13.4)
+  if (d.centre_frequency == undefined) {
+    text << "terrestrial, frequency undefined";
+  } else {
+    text << "terrestrial " << static_cast<double>(d.centre_frequency) * hertz_in_units_of_ten / 1e6 << " MHz";
+  }
   constexpr int widest = 8, last_bandwidth = 3;
   if (d.bandwidth <= last_bandwidth) text << ", " << widest - d.bandwidth << " MHz wide";
 }
@@ -44,6 +51,7 @@ void write_each(std::ostream& text, Descriptors const& descriptors) {
 
 std::u32string delivery_of(sivane::DescriptorSet const& entry) {
   std::ostringstream text;
+  text.exceptions(std::ios::badbit);
   text << std::setprecision(digits_of_frequencies);
   write_each(text, entry.get_satellite_delivery_system_descriptors());
   write_each(text, entry.get_cable_delivery_system_descriptors());
@@ -100,12 +108,22 @@ void NetworksCommand::show(Section const& section) {
   }
 }
 
+/// Numbers change hands: where a group does not call itself what it was registered as, the list's year is
+/// told.
+std::u32string NetworksCommand::title(Kind const& kind, int id, std::u32string const& name) {
+  if (name.empty()) return kind.name + U' ' + numbered(kind.lookup, id);
+  std::u32string const registered = registered_name(kind.lookup, id);
+  std::u32string title = kind.name + U' ' + plain(id);
+  if (registered == name) title += U" (" + registered + U")";
+  if (!registered.empty() && registered != name)
+    title += U" (registered in " + kind.year + U": " + registered + U")";
+  return title + U": " + name;
+}
+
 template <class Groups>
-void NetworksCommand::print(Groups const& groups, std::u32string const& kind,
-                            char const* (*lookup)(int)) const {
+void NetworksCommand::print(Groups const& groups, Kind const& kind) const {
   for (auto const& [id, group] : groups) {
-    std::u32string const name = group.name.empty() ? U"" : U": " + group.name;
-    out_ << for_terminal(kind) << ' ' << for_terminal(numbered(lookup, id)) << for_terminal(name) << '\n';
+    out_ << for_terminal(title(kind, id, group.name)) << '\n';
     for (auto const& [stream, delivery] : group.streams) {
       out_ << for_terminal(U"  stream " + plain(stream.second) + U" of network " +
                            numbered(sivane::get_original_network_id, stream.first) + delivery)
@@ -115,12 +133,12 @@ void NetworksCommand::print(Groups const& groups, std::u32string const& kind,
 }
 
 void NetworksCommand::finish() {
-  print(networks_, U"network", sivane::get_network_id);
-  print(bouquets_, U"bouquet", sivane::get_bouquet_id);
+  print(networks_, {U"network", sivane::get_network_id, U"2008"});
+  print(bouquets_, {U"bouquet", sivane::get_bouquet_id, U"2003"});
   for (int const id : ca_systems_) {
     out_ << for_terminal(U"CA system " + numbered_ca_system(id)) << '\n';
   }
-  if (networks_.empty() && bouquets_.empty() && ca_systems_.empty()) report("no network is described");
+  if (networks_.empty() && bouquets_.empty() && ca_systems_.empty()) note("no network is described");
 }
 
 }  // namespace inspect

@@ -2,8 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
 #include <map>
+#include <ostream>
 #include <set>
 #include <string>
 #include <utility>
@@ -15,7 +15,7 @@ namespace inspect {
 /// Lists networks and bouquets with their transport streams, and the CA systems that any table names.
 class NetworksCommand final : public Command {
  public:
-  explicit NetworksCommand(std::ostream& out) : out_(out) {}
+  explicit NetworksCommand(Showing const& showing) : out_(showing.out) {}
   void finish() override;
 
  private:
@@ -25,11 +25,19 @@ class NetworksCommand final : public Command {
         streams;  // by original network and transport stream: delivery
   };
 
+  /// What networks and bouquets differ in.
+  struct Kind {
+    std::u32string name;
+    char const* (*lookup)(int);
+    std::u32string year;  // of the list that the lookup reads
+  };
+
   void show(Section const& section) override;
   template <class Table>
   void take_group(Table const& table, Group& group);
+  static std::u32string title(Kind const& kind, int id, std::u32string const& name);
   template <class Groups>
-  void print(Groups const& groups, std::u32string const& kind, char const* (*lookup)(int)) const;
+  void print(Groups const& groups, Kind const& kind) const;
 
   std::ostream& out_;
   std::map<int, Group> networks_;

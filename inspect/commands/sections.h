@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
+#include <ostream>
 
 #include "commands/command.h"
 
@@ -11,7 +11,7 @@ namespace inspect {
 /// Lists every section as one line of hexadecimal, whatever its table.
 class SectionsCommand final : public Command {
  public:
-  explicit SectionsCommand(std::ostream& out) : out_(out) {}
+  explicit SectionsCommand(Showing const& showing) : out_(showing.out) {}
 
  private:
   void show(Section const& section) override;

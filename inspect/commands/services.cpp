@@ -7,8 +7,10 @@
 #include <ostream>
 #include <string_view>
 
+#include "console.h"
 #include "text/hexadecimal.h"
 #include "text/names.h"
+#include "text/service_types.h"
 #include "text/terminal.h"
 
 namespace inspect {
@@ -22,9 +24,8 @@ std::u32string running_text(int status) {
 
 std::u32string type_text(int type) {
   if (type < 0) return U"-";
-  std::string_view const text = sivane::DescriptorService::get_service_type_text(type);
-  bool const has_name = text != "reserved for future use" && text != "user defined";
-  return plain(has_name ? text : c_hexadecimal(type, 1));
+  std::string_view const text = service_type_text(type);
+  return plain(text.empty() ? c_hexadecimal(type, 1) : text);
 }
 
 std::u32string access_text(Service const& service, std::set<int> const& systems) {
@@ -47,7 +48,7 @@ void ServicesCommand::finish() {
                  running_text(service.running_status), access_text(service, services_.ca_systems_of(id))});
   }
   if (columns.empty()) {
-    report("no service is described");
+    note("no service is described");
   } else {
     columns.print(out_);
   }

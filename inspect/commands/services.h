@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
+#include <ostream>
 
 #include "commands/command.h"
 #include "commands/service_list.h"
@@ -12,7 +12,7 @@ namespace inspect {
 /// Lists the services that the SDTs describe.
 class ServicesCommand final : public Command {
  public:
-  explicit ServicesCommand(std::ostream& out) : out_(out) {}
+  explicit ServicesCommand(Showing const& showing) : out_(showing.out) {}
   void finish() override;
 
  private:

@@ -2,28 +2,23 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <sivane/dom/document.h>
-
-#include <iosfwd>
+#include <sivane/dom/element_writer.h>
 
 #include "commands/command.h"
 
 namespace inspect {
 
-/// Shows all sections as one document, written at the end.
+/// Saves all sections as one document, each as it comes.
 class XmlCommand final : public Command {
  public:
-  explicit XmlCommand(std::ostream& out) : out_(out), root_(document_.make_root("sections")) {}
-  void finish() override;
+  explicit XmlCommand(Showing const& showing) : writer_(showing.out, "sections") {}
+  void finish() override { writer_.finish(); }
 
  private:
   void show(Section const& section) override;
   void show_failure(Failure const& failure) override;
-  sivane::CComPtr<sivane::IXMLDOMElement> append(std::string_view name);
 
-  std::ostream& out_;
-  sivane::dom::Document document_;
-  sivane::CComPtr<sivane::IXMLDOMElement> root_;
+  sivane::dom::ElementWriter writer_;
 };
 
 }  // namespace inspect

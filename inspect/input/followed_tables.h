@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "input/ts_input.h"
+#include "input/handle.h"
 
 namespace inspect {
 

@@ -16,6 +16,7 @@ struct Section {
   std::span<unsigned char const> bytes = {};  ///< section_length + 3 of them; none of an element
   void* node = nullptr;                       ///< the element, an `IXMLDOMNode*`
   int pid = no_pid;
+  long long offset = -1;  ///< in the input, of the packet in which it began; -1 where there are no packets
   std::string_view class_name = {};  ///< names the class to parse with; empty: by table id
 
   int table_id() const { return bytes[0]; }

@@ -2,14 +2,13 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <iosfwd>
-
 #include "commands/command.h"
+#include "input/source.h"
 
 namespace inspect {
 
-/// Gives the sections of a document to the command. False, with the reason reported, where it is refused, or
-/// is no document of sections.
-bool read_xml(std::istream& in, Command& command);
+/// Gives the sections of a document to the command. Throws `InputFault` where it is refused, or is no
+/// document of sections.
+void read_xml(Source& source, Command& command);
 
 }  // namespace inspect

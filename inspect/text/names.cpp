@@ -6,16 +6,12 @@
 
 #include <string_view>
 
-#include "text/conversion.h"
 #include "text/hexadecimal.h"
 #include "text/terminal.h"
 
 namespace inspect {
 
-namespace {
-
-/// Empty where the number is not registered.
-std::u32string clean_name(char const* (*lookup)(int), int id) {
+std::u32string registered_name(char const* (*lookup)(int), int id) {
   sivane::init();
   std::string_view const name = lookup(id);
   if (name == "<unknown>") return {};
@@ -25,14 +21,16 @@ std::u32string clean_name(char const* (*lookup)(int), int id) {
     text.replace(at, entity.size(), 1, ' ');
   }
   std::u32string clean;
-  for (char32_t const c : to_unicode(text, "ISO-8859-1")) {
-    bool const is_blank = c == U' ' || c == 0xA0;
-    if (!is_blank) clean += c;
+  for (unsigned char const c : text) {  // ISO 8859-1, whose bytes are the first characters of Unicode
+    bool const is_blank = c == ' ' || c == 0xA0;
+    if (!is_blank) clean += char32_t(c);
     if (is_blank && !clean.empty() && clean.back() != U' ') clean += U' ';
   }
   if (!clean.empty() && clean.back() == U' ') clean.pop_back();
   return clean;
 }
+
+namespace {
 
 std::u32string with_name(std::u32string const& number, std::u32string const& name) {
   return name.empty() ? number : number + U" (" + name + U")";
@@ -43,17 +41,17 @@ std::u32string hexadecimal(int id) { return plain(c_hexadecimal(id, 2)); }
 }  // namespace
 
 std::u32string numbered(char const* (*lookup)(int), int id) {
-  return with_name(plain(id), clean_name(lookup, id));
+  return with_name(plain(id), registered_name(lookup, id));
 }
 
 std::u32string numbered_ca_system(int id) {
-  return with_name(hexadecimal(id), clean_name(sivane::get_ca_system_id, id));
+  return with_name(hexadecimal(id), registered_name(sivane::get_ca_system_id, id));
 }
 
 std::u32string ca_systems(std::set<int> const& ids) {
   std::set<std::u32string> named;  // a party may have several ids
   for (int const id : ids) {
-    std::u32string const name = clean_name(sivane::get_ca_system_id, id);
+    std::u32string const name = registered_name(sivane::get_ca_system_id, id);
     named.insert(name.empty() ? hexadecimal(id) : name);
   }
   std::u32string names;

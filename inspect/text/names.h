@@ -9,6 +9,8 @@ namespace inspect {
 
 // Registered names as people read them: without the blanks and "&nbsp;" that the lists left in them.
 
+/// The name alone; empty where the number is not registered.
+std::u32string registered_name(char const* (*lookup)(int), int id);
 /// The number and, where there is one, the name in brackets: "1 (Astra Satellite Network 19,2°E)".
 std::u32string numbered(char const* (*lookup)(int), int id);
 /// Of a CA system, whose number is known in hexadecimal: "0x0100 (Canal Plus)".

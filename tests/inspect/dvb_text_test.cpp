@@ -10,6 +10,7 @@
 #include "section_builder.h"
 #include "text/conversion.h"
 #include "text/terminal.h"
+#include "text/visible.h"
 
 namespace sivane::testing {
 
@@ -44,6 +45,16 @@ TEST(InspectText, AnyTwoBytesEndWithoutAControlCharacter) {
       }
     }
   }
+}
+
+TEST(InspectText, ShowsWhatCouldSteerATerminal) {
+  std::pair<std::string_view, std::string_view> const texts[] = {
+      {"a\n\t\x1b[m\x07\x7f", "a\n\\x09\\x1b[m\\x07\\x7f"},
+      {"\xc3\xa9 \xe4\xb8\xad \xf0\x9f\x98\x80", "\xc3\xa9 \xe4\xb8\xad \xf0\x9f\x98\x80"},
+      {"\x9b \xc2\x9b \xe2\x80\xae", "\\x9b \\xc2\\x9b \\xe2\\x80\\xae"},
+      {"\xc0\x9b \xed\xa0\x80 \xf4\x90\x80\x80 \xe4\xb8",
+       "\\xc0\\x9b \\xed\\xa0\\x80 \\xf4\\x90\\x80\\x80 \\xe4\\xb8"}};
+  for (auto const& [text, shown_text] : texts) EXPECT_EQ(::inspect::visible(text), shown_text);
 }
 
 TEST(InspectText, CountsTheCellsOfATerminal) {

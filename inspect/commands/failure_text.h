@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <string>
+
+#include "commands/command.h"
+
+namespace inspect {
+
+/// Where a section failed, as far as that is known, and why:
+/// "PID 0x0010, NIT 0x40, byte 37, at 1,274,120: descriptor start end mismatch".
+std::string failure_text(Section const& section, Failure const& failure);
+
+}  // namespace inspect

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "command_list.h"
+#include "input/handle.h"
+
+namespace inspect {
+
+/// The words of the command line, before they are understood.
+struct Arguments {
+  std::string input = "ts";
+  std::vector<std::string> handles;
+  std::optional<double> seconds;
+  std::optional<long long> packets;
+  bool follow = false;
+  bool quiet = false;
+  std::string source;
+};
+
+/// What the user asked for.
+struct Options {
+  CommandRow const* command = nullptr;
+  Input input = Input::ts;
+  std::vector<Handle> handles;  ///< empty: the usual ones
+  std::optional<double> seconds;
+  std::optional<long long> packets;
+  bool follow = false;
+  bool quiet = false;
+  std::string source;
+};
+
+/// Throws `CLI::ValidationError`, which says what cannot be.
+Options understand(CommandRow const& row, Arguments const& arguments);
+
+}  // namespace inspect

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "run.h"
+
+#include <unistd.h>
+
+#include <ostream>
+
+#include "console.h"
+#include "input/packet_input.h"
+#include "input/section_list_input.h"
+#include "input/source.h"
+#include "input/xml_input.h"
+#include "output.h"
+
+namespace inspect {
+
+namespace {
+
+void read_input(Source& source, Options const& options, Command& command) {
+  switch (options.input) {
+    case Input::sections:
+      return read_section_list(source, command);
+    case Input::xml:
+      return read_xml(source, command);
+    case Input::ts:
+    case Input::packets:
+      return read_packets(source, options, command);
+  }
+}
+
+ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
+  auto const source = open_source(options.source, options.follow, end);
+  ExitStatus status = all_well;
+  try {
+    read_input(*source, options, command);
+  } catch (InputFault const& fault) {
+    report(fault.what());
+    status = unusable;
+  }
+  clear_progress();
+  command.finish();
+  source->report_losses();
+  if (status == all_well && command.failures() > 0) status = section_failed;
+  return status;
+} catch (NoInput const& fault) {
+  report(fault.what());
+  return unusable;
+}
+
+void count_failures(Command const& command) {
+  if (command.failures() == 0) return;
+  note(grouped(command.failures()) + " of " + counted(command.number(), "section") + " failed");
+}
+
+}  // namespace
+
+ExitStatus run(Options const& options) try {
+  if (options.quiet) be_quiet();
+  OutputBuffer buffer(STDOUT_FILENO);
+  std::ostream out(&buffer);
+  out.exceptions(std::ios::badbit);
+  RunEnd end(options.seconds, [&out] { out.flush(); });
+  auto const command = options.command->make({out, buffer.is_terminal()});
+  ExitStatus const status = read_all(options, *command, end);
+  out.flush();
+  count_failures(*command);
+  return status;
+} catch (OutputLost const& lost) {
+  report("cannot write to standard output: " + lost.reason);
+  return unusable;
+}
+
+}  // namespace inspect
