@@ -6,7 +6,6 @@
 #include <chrono>
 #include <sstream>
 
-#include "expect_error.h"
 #include "heap_block.h"
 
 namespace sivane::testing {
@@ -15,10 +14,6 @@ namespace {
 template <class Value>
 Value from(char const* bytes) {
   return Value(HeapBlock(hex(bytes)).data());
-}
-
-TEST(DateTime, DecodesTheExampleOfTheStandard) {
-  EXPECT_EQ(from<DateTime>("C0 79 12 45 00").get_date_as_text(), "13 10 1993 12 45 0");
 }
 
 TEST(DateTime, AgreesWithTheCalendarOnEveryDay) {
@@ -35,7 +30,6 @@ TEST(DateTime, AgreesWithTheCalendarOnEveryDay) {
 
 TEST(TimeValues, DigitsAboveNineCountWithTheirValue) {
   EXPECT_EQ(from<DateTime>("C0 79 AB 99 FF").get_date_as_text(), "13 10 1993 111 99 165");
-  EXPECT_EQ(from<DateTime>("FF FF FF FF FF").get_date_as_text(), "22 4 2038 165 165 165");
   EXPECT_EQ(from<Duration>("FF 0A A0").get_time_as_text(), "165 10 100");
 }
 
@@ -44,70 +38,48 @@ TEST(TimeValues, StreamFormsHaveNoPaddingAndSetDecimalWhereDumpsKeepTheBase) {
   auto const duration = from<Duration>("09 11 12");
   std::ostringstream os;
   os.fill('0');
-  os << std::hex << date << '\n'
+  os << DateTime() << std::hex << ' ' << date << '\n'
      << std::hex << duration << '\n'
      << std::hex << from<TimeOffset>("09 11") << 10;
-  EXPECT_EQ(os.str(), "13/2-2005 9:11:12\n9:11:12\n9:1110");
-  std::ostringstream dump;
-  date.dump_state(dump << std::hex << std::uppercase);
-  duration.dump_state(dump);
-  EXPECT_EQ(dump.str(), "D/2-7D5 9:B:C\n9:B:C\n");
-  std::ostringstream fresh;
-  fresh << DateTime();
-  EXPECT_EQ(fresh.str(), "1/1-1 1:1:1");
+  date.dump_state(os << std::hex << std::uppercase);
+  duration.dump_state(os);
+  EXPECT_EQ(os.str(), "1/1-1 1:1:1 13/2-2005 9:11:12\n9:11:12\n9:1110D/2-7D5 9:B:C\n9:B:C\n");
 }
 
 TEST(TimeValues, TextsRestoreWhatTheyReach) {
   std::string const nines(1000, '9');
-  struct Case {
-    std::string text, expected;
-  };
-  for (Case const& c : {Case{"", "1 2 3 4 5 6"},
-                        {"7 8", "7 8 3 4 5 6"},
-                        {"7 x 9", "7 2 3 4 5 6"},
-                        {"7a 9", "7 2 3 4 5 6"},
-                        {" \t007\n8  9 ", "7 8 9 4 5 6"},
-                        {"-7 +8", "-7 8 3 4 5 6"},
-                        {"2147483647 -2147483648", "2147483647 -2147483648 3 4 5 6"},
-                        {"7 8 9 10 11 12 13", "7 8 9 10 11 12"},
-                        {"7/8", "7 2 3 4 5 6"}}) {
+  for (auto const& [text, expected] : std::vector<std::pair<std::string, char const*>>{
+           {"", "1 2 3 4 5 6"},
+           {"7 x 9", "7 2 3 4 5 6"},
+           {"7a 9", "7 2 3 4 5 6"},
+           {" \t007\n8\r9 ", "7 8 9 4 5 6"},
+           {"-7 +8", "-7 8 3 4 5 6"},
+           {"2147483647 -2147483648", "2147483647 -2147483648 3 4 5 6"},
+           {"7 8 9 10 11 12 13", "7 8 9 10 11 12"},
+           {"7/8", "7 2 3 4 5 6"}}) {
     DateTime date;
     date.set_date_from_text("1 2 3 4 5 6");
-    EXPECT_TRUE(date.set_date_from_text(c.text.c_str()));
-    EXPECT_EQ(date.get_date_as_text(), c.expected) << c.text;
+    EXPECT_TRUE(date.set_date_from_text(text.c_str()));
+    EXPECT_EQ(date.get_date_as_text(), expected) << text;
   }
   DateTime date;
   EXPECT_TRUE(date.set_date_from_text((nines + " -" + nines + " 5").c_str()));
   EXPECT_EQ(date.year, 5);
   Duration duration;
-  EXPECT_TRUE(duration.set_time_from_text("1 45 30"));
-  EXPECT_TRUE(duration.set_time_from_text("2"));
+  EXPECT_TRUE(duration.set_time_from_text("1 45 30") && duration.set_time_from_text("2"));
   EXPECT_EQ(duration.get_time_as_text(), "2 45 30");
 }
 
-TEST(ApplicationIdentifier, DecodesAndDumps) {
-  auto const id = from<ApplicationIdentifier>("80 00 00 15 0F 01");
-  EXPECT_EQ(id.application_identifier_as_text(), "80000015 0F01");
-  std::ostringstream os;
-  id.dump_state(os);
-  id.dump_state(os << std::hex);
-  EXPECT_EQ(os.str(),
-            "organisation_id: 2147483669\napplication_id: 3841\n"
-            "organisation_id: 80000015\napplication_id: f01\n");
-}
-
-TEST(ApplicationIdentifier, ReadsEitherCaseAndShortNumbers) {
-  struct Case {
-    char const *text, *expected;
-  };
-  for (Case const c : {Case{"80000015 ff01", "80000015 FF01"},
-                       {"aB 0Xc", "000000AB 000C"},
-                       {"7", "00000007 0002"},
-                       {"g 5", "00000001 0002"}}) {
+TEST(ApplicationIdentifier, TextsAreHexadecimalOfEitherCase) {
+  for (auto const& [text, expected] :
+       std::vector<std::pair<char const*, char const*>>{{"80000015 ff01", "80000015 FF01"},
+                                                        {"aB 0Xc", "000000AB 000C"},
+                                                        {"7", "00000007 0002"},
+                                                        {"g 5", "00000001 0002"}}) {
     ApplicationIdentifier id;
     id.set_application_identifier_from_text("1 2");
-    EXPECT_TRUE(id.set_application_identifier_from_text(c.text));
-    EXPECT_EQ(id.application_identifier_as_text(), c.expected) << c.text;
+    EXPECT_TRUE(id.set_application_identifier_from_text(text));
+    EXPECT_EQ(id.application_identifier_as_text(), expected) << text;
   }
 }
 
