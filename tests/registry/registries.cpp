@@ -5,14 +5,12 @@
 #include <sivane/registry/registry.h>
 #include <sivane/registry/tables.h>
 
-#include <algorithm>
-
 namespace sivane::testing {
 namespace {
 
 template <class Id>
 Registry make(char const* name, char const* (*look_up)(int), registry::Table<Id> const& table) {
-  Registry made{name, look_up, {}, table.head};
+  Registry made{name, look_up, {}};
   for (std::size_t row = 0; row < table.ids.size(); ++row) {
     made.rows.emplace_back(table.ids[row], table.name(row));
   }
@@ -32,22 +30,6 @@ std::vector<Registry> const& registries() {
       make("bouquet", get_bouquet_id, registry::bouquet()),
   };
   return all;
-}
-
-Registry const& registry_named(std::string const& name) {
-  return *std::find_if(registries().begin(), registries().end(),
-                       [&](Registry const& registry) { return registry.name == name; });
-}
-
-std::size_t known_rows() {
-  std::size_t known = 0;
-  for (Registry const& registry : registries()) {
-    known += static_cast<std::size_t>(
-        std::count_if(registry.rows.begin(), registry.rows.end(), [&](auto const& row) {
-          return registry.look_up(static_cast<int>(row.first)) != std::string("<unknown>");
-        }));
-  }
-  return known;
 }
 
 }  // namespace sivane::testing
