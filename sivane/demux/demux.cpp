@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/demux/demux.h>
+#include <sivane/demux/reception.h>
 #include <sivane/foundation/error.h>
 
 #include <algorithm>
@@ -59,6 +60,9 @@ class Demux::PidEntry {
  private:
   void add(int pid) {
     auto handler = std::make_unique<PidHandler>(demux_);
+    if (demux_.reassembly_ == Reassembly::every_section) {
+      handler->assemble_every_section(demux_.receptions_->add(pid).counters);
+    }
     entry_ = demux_.pid_handlers.emplace(pid, handler.get()).first;
     handler.release();
     ++demux_.registered_;
@@ -118,22 +122,21 @@ int Demux::start() {
   unsigned char packet[ts_packet_size];
   int got = 0;
   while (read_buf(packet, ts_packet_size, got) && got == ts_packet_size && !stopped) {
-    on_raw_ts_packet(packet);
-    if (packet[0] != ts_sync_byte) return 2;
-    route_packet(packet);
+    begin_packet(ts_packet_size);
+    guard([&] { on_raw_ts_packet(packet); });
+    bool const is_packet = packet[0] == ts_sync_byte;
+    if (is_packet) route_packet(packet);
+    pass_failure();
+    if (!is_packet) return 2;
   }
   return exit_code;
 }
 
-/// The PID is that of a packet. A handler that the host has erased from the map is not followed.
-inline Demux::PidHandler* Demux::find_handler(int pid) const {
-  PidHandler* const handler = handlers_[static_cast<std::size_t>(pid)];
-  if (handler == nullptr || pid_handlers.size() == registered_) return handler;
-  auto const entry = pid_handlers.find(pid);
-  return entry != pid_handlers.end() ? entry->second : nullptr;
-}
-
 void Demux::route_packet(unsigned char const* packet) {
+  if (receptions_ != nullptr) {
+    route_watched((packet[1] & 0x1F) << 8 | packet[2], packet);
+    return;
+  }
   TSHeader header(packet);
   Payload const payload = show_packet(header, packet);
   if (PidHandler* const handler = find_handler(header.pid))
@@ -142,13 +145,18 @@ void Demux::route_packet(unsigned char const* packet) {
 
 Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* packet) {
   on_ts_packet(header, packet + header_size);
-  int offset = header_size;
+  Payload const payload = payload_of(header, packet);
   if (has_adaptation_field(header)) {
     int field_length = 0;
     AdaptionFieldHeader const field(packet + header_size, field_length);
-    offset = std::min(header_size + field_length, ts_packet_size);
-    on_adaption_field_header_(field, packet + offset);
+    on_adaption_field_header_(field, payload.data);
   }
+  return payload;
+}
+
+Demux::Payload Demux::payload_of(TSHeader const& header, unsigned char const* packet) {
+  int offset = header_size;
+  if (has_adaptation_field(header)) offset = std::min(header_size + 1 + packet[header_size], ts_packet_size);
   return {packet + offset, ts_packet_size - offset};
 }
 

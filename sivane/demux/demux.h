@@ -2,20 +2,36 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/demux/counters.h>
+#include <sivane/demux/packet.h>
 #include <sivane/foundation/export.h>
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <iosfwd>
 #include <map>
 #include <memory>
 #include <set>
+#include <utility>
 
 namespace sivane {
 
-/// Bytes of a transport packet (ISO/IEC 13818-1, 2.4.3.2); no other size is known to the library.
-inline constexpr int ts_packet_size = 188;
-inline constexpr unsigned char ts_sync_byte = 0x47;
+/// How the payloads of a PID become sections.
+enum class Reassembly {
+  /// The first section that starts in each packet. Error, scrambling and continuity bits are not looked at: a
+  /// lost
+  /// packet shows up as a wrong CRC in the section that it was part of.
+  first_start,
+  /// All sections, as ISO/IEC 13818-1, 2.4.4 has them: any number in a packet, up to stuffing bytes 0xFF.
+  /// Packets
+  /// with transport_error_indicator and scrambled payloads are not read, a repeated packet counts once, and a
+  /// gap
+  /// in the continuity_counter drops the section that it cuts. Table ids that nobody has asked for are
+  /// stepped
+  /// over.
+  every_section,
+};
 
 /// The routing core: takes packets from a driver, shows each of them to the host's hooks, and reassembles the
 /// sections of the PIDs that the host has registered.
@@ -28,8 +44,8 @@ inline constexpr unsigned char ts_sync_byte = 0x47;
 /// An object takes 64 KiB and each handler of it 8 KiB, used or not. Objects share nothing: one for each
 /// stream, on as many threads.
 ///
-/// Of each packet the first section that starts in it is assembled, and error, scrambling and continuity bits
-/// are not looked at: a lost packet shows up as a wrong CRC in the section that it was part of.
+/// Which sections are assembled is what `set_reassembly` chooses: the default takes one of each packet,
+/// `Reassembly::every_section` is for receivers.
 ///
 /// A hook may register and remove handlers, the one that is delivering to it included: it gets no further
 /// calls. What a hook registers takes part from the next packet on.
@@ -88,8 +104,9 @@ class SIVANE_API Demux {
     int need() const { return ((section[1] & 0xF) << 8 | section[2]) + 3; }
 
     unsigned char section[capacity] = {};
-    int section_size = 0;     ///< bytes held
-    bool in_section = false;  ///< a section has started and is not yet delivered
+    int section_size = 0;        ///< bytes held
+    bool in_section = false;     ///< a section has started and is not yet delivered
+    std::uint64_t began_at = 0;  ///< `packet_offset` of the packet in which it has started
   };
 
   Demux();
@@ -113,6 +130,35 @@ class SIVANE_API Demux {
   /// too: on a PID of filters alone any `table_id` drops them all. No other call drops a filter but `reset`.
   void remove_psi_handler(int pid, int table_id);
   void dump_state(std::ostream& os) const;
+
+  /// Chooses how sections are assembled from the next packet on; those in progress are dropped. With
+  /// `Reassembly::every_section`:
+  /// - A hook that throws loses its own section and nothing else: the first exception leaves when the packet
+  /// is
+  ///   dealt with, that of `push_data` and `push_packets` when the buffer is.
+  /// - The section that a table id hook gets may lie in the packet itself and has its own bytes alone; its
+  ///   `section_number` is 0 where it has less than 7.
+  /// - Handlers keep no bytes in their own buffers; each PID takes 5 KiB more, the object 64 KiB.
+  void set_reassembly(Reassembly mode);
+  Reassembly reassembly() const { return reassembly_; }
+
+  /// Counts what arrives on `pid` from now on, whether it has handlers or not. Works in both modes.
+  void count(int pid);
+  /// Counts every PID that a packet can have. Takes 3 MiB.
+  void count_all();
+  /// What was counted on `pid`, null if nobody has asked for it; it stays where it is as long as this object
+  /// does. With `Reassembly::every_section` the PIDs that have handlers are counted unasked.
+  PidCounters const* counters(int pid) const;
+  /// For hosts that check the CRC, so that it stands among the counters of `pid`.
+  void report_crc_failure(int pid);
+  /// Is told of the gaps on all PIDs that are counted; null for nobody. It must outlive this object.
+  void set_gap_listener(GapListener* listener) { gap_listener_ = listener; }
+
+  /// Where the packet that is looked at, or was looked at last, stands in the input: bytes from the start of
+  /// the first packet. What `push_packets` takes stands where its runs say.
+  std::uint64_t packet_offset() const { return packet_offset_; }
+  /// For section hooks: the same for the packet in which the section began.
+  std::uint64_t section_offset() const { return section_offset_; }
 
   std::map<int, PidHandler*> pid_handlers;  ///< by PID; owned, changed by the operations above only
   bool stopped = false;                     ///< set by `stop`, cleared by nothing
@@ -141,25 +187,62 @@ class SIVANE_API Demux {
   friend class DemuxPush;
   friend class Demux2;
   class SIVANE_LOCAL Delivery;
+  class SIVANE_LOCAL Receptions;
   static constexpr int pid_count = 0x2000;
 
+  void begin_packet(int stride) {
+    packet_offset_ = next_offset_;
+    next_offset_ += static_cast<unsigned int>(stride);
+  }
   /// Shows a packet that begins with 0x47 to the hooks and gives it to the handler of its PID.
   void route_packet(unsigned char const* packet);
+  /// The same where somebody counts or wants every section. The handler is that of `pid`, and with it the
+  /// counters.
+  void route_watched(int pid, unsigned char const* packet);
+  /// Calls a hook. With `Reassembly::every_section` its exception waits until what is under way is dealt
+  /// with.
+  template <class Hook>
+  void guard(Hook hook) {
+    if (reassembly_ == Reassembly::first_start) return hook();
+    try {
+      hook();
+    } catch (...) {
+      if (!failure_) failure_ = std::current_exception();
+    }
+  }
+  void pass_failure() {
+    if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
+  }
   /// Shows the packet to the hooks. What is left of it behind header and adaptation field is its payload.
   struct Payload {
     unsigned char const* data;
     int size;  ///< 0 to 184
   };
+  static Payload payload_of(TSHeader const& header, unsigned char const* packet);
   Payload show_packet(TSHeader const& header, unsigned char const* packet);
 
   class SIVANE_LOCAL PidEntry;
-  PidHandler* find_handler(int pid) const;
+  /// A handler that the host has erased from the map by itself is not followed.
+  PidHandler* find_handler(int pid) const {
+    bool const is_in_table = 0 <= pid && pid < pid_count;
+    PidHandler* const handler = is_in_table ? handlers_[static_cast<std::size_t>(pid)] : nullptr;
+    if (is_in_table && (handler == nullptr || pid_handlers.size() == registered_)) return handler;
+    auto const entry = pid_handlers.find(pid);
+    return entry != pid_handlers.end() ? entry->second : nullptr;
+  }
   void drop_pid(std::map<int, PidHandler*>::iterator entry);
 
   std::unique_ptr<PidHandler*[]> handlers_;  // of the PIDs that a packet can have, found at once
   std::size_t registered_ = 0;               // PIDs in pid_handlers, unless the host took some away by itself
-  int deliveries_ = 0;                       // calls of PidHandler::parse under way
-  std::uint64_t parsed_ = 0;                 // calls of PidHandler::parse so far
+  std::unique_ptr<Receptions> receptions_;   // of the PIDs that are counted; null until there is one
+  Reassembly reassembly_ = Reassembly::first_start;
+  GapListener* gap_listener_ = nullptr;
+  std::exception_ptr failure_;  // the first one of the packet or buffer under way
+  std::uint64_t packet_offset_ = 0;
+  std::uint64_t next_offset_ = 0;
+  std::uint64_t section_offset_ = 0;
+  int deliveries_ = 0;        // calls of PidHandler::parse under way
+  std::uint64_t parsed_ = 0;  // calls of PidHandler::parse so far
   // Handlers that a hook removed live on until no delivery is under way, each linked to the next: where
   // memory has run out they can still be put aside.
   PSIHandler* retired_handlers_ = nullptr;
@@ -202,13 +285,14 @@ class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public Sect
 
  private:
   friend class PidHandler;
+  bool matches(unsigned char const* bytes, int count) const;
   std::uint64_t added_in_ = 0;  // as in PSIHandler
 };
 
 /// The handlers of one PID.
 class SIVANE_API Demux::PidHandler {
  public:
-  explicit PidHandler(Demux& owner) : demux(owner) {}
+  explicit PidHandler(Demux& owner);
   PidHandler(PidHandler const&) = delete;
   PidHandler& operator=(PidHandler const&) = delete;
   ~PidHandler();
@@ -219,7 +303,8 @@ class SIVANE_API Demux::PidHandler {
   void AddPsiHandler(int table_id);
   void AddPsiHandler(unsigned char const* value, unsigned char const* mask, int size, unsigned long id);
   void RemovePsiHandler(int table_id);
-  /// Drops the partial sections of the table id handlers; filters keep theirs.
+  /// Drops the partial sections of the table id handlers; filters keep theirs. With
+  /// `Reassembly::every_section` it drops the section in progress.
   void invalidate();
   void dump_state(std::ostream& os) const;
 
@@ -230,10 +315,15 @@ class SIVANE_API Demux::PidHandler {
 
  private:
   friend class Demux;
+  class SIVANE_LOCAL Assembly;
+  void assemble_every_section(PidCounters& counters);
+  void cut_section();
+  void drop_sections();
   void start_section(TSHeader const& header, unsigned char const* data, int size);
   void continue_section(TSHeader const& header, unsigned char const* data, int size);
   void give_to_filters(TSHeader const& header, bool start, unsigned char const* data, int size);
 
+  std::unique_ptr<Assembly> assembly_;  // of the mode every_section
   bool removed_ = false;
   PidHandler* next_retired_ = nullptr;
 };
@@ -244,6 +334,8 @@ class SIVANE_API DemuxPush : public Demux {
   /// 0: all packets were processed. -1: `size` is no whole number of packets, nothing was. 2: a packet does
   /// not begin with 0x47; those before it were processed. A section may span two calls.
   int push_data(unsigned char const* data, int size);
+  /// The same for packets of any stride, as `PacketFinder` hands them on; the result is 0 or 2.
+  int push_packets(PacketRun const& run);
 
  protected:
   bool read_buf(unsigned char* buffer, int size, int& got) override;

@@ -31,16 +31,20 @@ void Demux2::poll(int pid, unsigned char* packet, int& length) {
   log_write(3, "read_buf(%d)=%d", length, result ? 1 : 0);
   if (!result || length != ts_packet_size) return;
   log_write(3, "bytes read");
-  on_raw_ts_packet(packet);
+  begin_packet(ts_packet_size);
+  guard([&] { on_raw_ts_packet(packet); });
   if (packet[0] != ts_sync_byte) {
     log_write(3, "invalid sync byte");
     invalidate();
-    return;
+  } else if (receptions_ != nullptr) {
+    route_watched(pid, packet);
+  } else {
+    TSHeader header(packet);
+    Payload const payload = show_packet(header, packet);
+    PidHandler* const handler = find_handler(pid);
+    if (handler != nullptr) handler->parse(header, payload.data, payload.size);
   }
-  TSHeader header(packet);
-  Payload const payload = show_packet(header, packet);
-  auto const entry = pid_handlers.find(pid);
-  if (entry != pid_handlers.end()) entry->second->parse(header, payload.data, payload.size);
+  pass_failure();
 }
 
 void Demux2::invalidate() {

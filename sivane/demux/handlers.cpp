@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/demux/demux.h>
+#include <sivane/demux/assembly.h>
 #include <sivane/foundation/dump.h>
 #include <sivane/foundation/trace_log.h>
 
@@ -84,7 +84,9 @@ Demux::PSIHandler::PSIHandler(Demux& owner, int id)
     : BaseHandler(owner), table_id(id), added_in_(owner.parsed_) {}
 
 void Demux::PSIHandler::parse(TSHeader const& header, bool start, unsigned char const* data, int size) {
+  if (start) began_at = demux.packet_offset_;
   if (!take(start, data, size)) return;
+  demux.section_offset_ = began_at;
   demux.on_psi_section(header.pid, table_id, section[6], section);
   close();
 }
@@ -107,19 +109,25 @@ void Demux::PSIFilterHandler::parse(TSHeader const& /*header*/, bool start, unsi
                                     int payload_size) {
   log_write(3, "Demux::PSIFilterHandler::parse(TSHeader,%d,%#x,%d)", start ? 1 : 0, low_bits(data),
             payload_size);
+  if (start) began_at = demux.packet_offset_;
   if (!take(start, data, payload_size)) return;
+  demux.section_offset_ = began_at;
   if (filter_match()) demux.on_psi_section(id, need(), section);
   close();
 }
 
-bool Demux::PSIFilterHandler::filter_match() const {
+bool Demux::PSIFilterHandler::filter_match() const { return matches(section, section_size); }
+
+/// What is behind the `count` bytes are bytes of earlier sections, or of others.
+bool Demux::PSIFilterHandler::matches(unsigned char const* bytes, int count) const {
   if (size > capacity) return false;
   for (int i = 0; i < size; ++i) {
-    bool const is_held = i < section_size;  // behind them stand bytes of earlier sections
-    if (is_held ? (section[i] & mask[i]) != value[i] : (mask[i] | value[i]) != 0) return false;
+    if (i < count ? (bytes[i] & mask[i]) != value[i] : (mask[i] | value[i]) != 0) return false;
   }
   return true;
 }
+
+Demux::PidHandler::PidHandler(Demux& owner) : demux(owner) {}
 
 Demux::PidHandler::~PidHandler() {
   for (auto const& [table_id, handler] : psi_handlers) delete handler;
@@ -130,6 +138,10 @@ void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int s
   Delivery const delivery(demux);
   log_write(3, "Demux::PidHandler::parse()");
   if (size < 1) return;
+  if (assembly_ != nullptr && demux.reassembly_ == Reassembly::every_section) {
+    assembly_->take(header.pid, header.payload_unit_start_indicator == 1, data, size);
+    return;
+  }
   if (header.payload_unit_start_indicator != 1) {
     continue_section(header, data, size);
     return;
@@ -196,6 +208,21 @@ void Demux::PidHandler::RemovePsiHandler(int table_id) {
 
 void Demux::PidHandler::invalidate() {
   for (auto const& [table_id, handler] : psi_handlers) handler->invalidate();
+  cut_section();
+}
+
+void Demux::PidHandler::assemble_every_section(PidCounters& counters) {
+  if (assembly_ == nullptr) assembly_ = std::make_unique<Assembly>(*this, counters);
+}
+
+void Demux::PidHandler::cut_section() {
+  if (assembly_ != nullptr) assembly_->cut();
+}
+
+void Demux::PidHandler::drop_sections() {
+  for (auto const& [table_id, handler] : psi_handlers) handler->close();
+  for (PSIFilterHandler* const filter : filter_handlers) filter->close();
+  if (assembly_ != nullptr) assembly_->clear();
 }
 
 void Demux::PidHandler::dump_state(std::ostream& os) const {
