@@ -8,19 +8,24 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstddef>
+#include <ctime>
 #include <vector>
 
 namespace sivane::bench {
 
-using Clock = std::chrono::steady_clock;
+/// Of the processor, used by this thread: what other programs take of it does not count.
+inline double seconds_used() {
+  timespec now{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
 
 template <class Work>
 double seconds_of(Work& work) {
-  auto const start = Clock::now();
+  double const start = seconds_used();
   work();
-  return std::chrono::duration<double>(Clock::now() - start).count();
+  return seconds_used() - start;
 }
 
 /// The value below which `share` of the samples lie.
@@ -61,6 +66,11 @@ void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_n
 /// Iterations until both sides have taken a second together.
 inline void timed_by_hand(benchmark::internal::Benchmark* benchmark) {
   benchmark->UseManualTime()->MinTime(1.0);
+}
+
+/// For sides that take a second and more.
+inline void five_times(benchmark::internal::Benchmark* benchmark) {
+  benchmark->UseManualTime()->Iterations(5);
 }
 
 }  // namespace sivane::bench

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The whole way from packets to decoded descriptors, beside libdvbpsi on the same bytes. Both sides count
+// what they got, and must agree.
+#include <sivane/sivane.h>
+
+#include "compare.h"
+#include "peer.h"
+#include "streams.h"
+
+namespace {
+
+using sivane::bench::Decoded;
+using sivane::bench::Kinds;
+using sivane::testing::Bytes;
+
+/// The numbers of what one vector of a set holds.
+template <class Descriptor, class Read>
+void take(Decoded& decoded, std::vector<Descriptor> const& descriptors, Read read) {
+  decoded.descriptors += descriptors.size();
+  for (Descriptor const& descriptor : descriptors)
+    decoded.sum += static_cast<std::uint64_t>(read(descriptor));
+}
+
+template <class Items, class Read>
+std::uint64_t sum(Items const& items, Read read) {
+  std::uint64_t total = 0;
+  for (auto const& item : items) total += static_cast<std::uint64_t>(read(item));
+  return total;
+}
+
+void take_of_guide(Decoded& decoded, sivane::DescriptorSet const& set) {
+  take(decoded, set.get_short_event_descriptors(),
+       [](auto& d) { return d.event_name.size() + d.text.size(); });
+  take(decoded, set.get_extended_event_descriptors(), [](auto& d) { return d.text.size(); });
+  take(decoded, set.get_content_descriptors(), [](auto& d) {
+    return sum(d.contents, [](auto& c) { return c.content_nibble_level1 << 4 | c.content_nibble_level2; });
+  });
+}
+
+void take_of_event(Decoded& decoded, sivane::DescriptorSet const& set) {
+  take_of_guide(decoded, set);
+  take(decoded, set.get_component_descriptors(), [](auto& d) { return d.component_type; });
+  take(decoded, set.get_parental_rating_descriptors(),
+       [](auto& d) { return sum(d.ratinginfo, [](auto& r) { return r.rating; }); });
+}
+
+void take_of_program(Decoded& decoded, sivane::DescriptorSet const& set) {
+  take(decoded, set.get_CA_descriptors(), [](auto& d) { return d.pid; });
+  take(decoded, set.get_ISO_639_language_descriptors(),
+       [](auto& d) { return sum(d.language_vector, [](auto& l) { return l.audio_type; }); });
+  take(decoded, set.get_maximum_bitrate_descriptors(), [](auto& d) { return d.maximum_bitrate; });
+  take(decoded, set.get_stream_identifier_descriptors(), [](auto& d) { return d.component_tag; });
+  take(decoded, set.get_teletext_descriptors(),
+       [](auto& d) { return sum(d.teletextitems, [](auto& t) { return t.teletext_page_number; }); });
+  take(decoded, set.get_subtitling_descriptors(),
+       [](auto& d) { return sum(d.subtitlinginfo, [](auto& s) { return s.composition_page_id; }); });
+}
+
+void take_of_network(Decoded& decoded, sivane::DescriptorSet const& set) {
+  take(decoded, set.get_network_name_descriptors(), [](auto& d) { return d.network_name.size(); });
+  take(decoded, set.get_service_list_descriptors(),
+       [](auto& d) { return sum(d.servicelist, [](auto& s) { return s.service_id; }); });
+  take(decoded, set.get_satellite_delivery_system_descriptors(), [](auto& d) { return d.FEC_inner; });
+  take(decoded, set.get_linkage_descriptors(), [](auto& d) { return d.service_id; });
+}
+
+void take_of_service(Decoded& decoded, sivane::DescriptorSet const& set) {
+  take(decoded, set.get_service_descriptors(),
+       [](auto& d) { return d.provider_name.size() + d.service_name.size(); });
+  take(decoded, set.get_country_availability_descriptors(), [](auto& d) { return d.country_code.size(); });
+  take(decoded, set.get_CA_identifiers_descriptors(), [](auto& d) { return d.CA_system_id.size(); });
+}
+
+class Host final : public sivane::DemuxPush {
+ public:
+  Host() {
+    add_psi_handler(sivane::bench::pat_pid, 0x00);
+    add_psi_handler(sivane::bench::nit_pid, 0x40);
+    add_psi_handler(sivane::bench::sdt_pid, 0x42);
+    add_psi_handler(sivane::bench::eit_pid, 0x4E);
+    add_psi_handler(sivane::bench::eit_pid, 0x50);
+    for (int i = 0; i < sivane::bench::services; ++i) add_psi_handler(sivane::bench::first_pmt_pid + i, 0x02);
+  }
+
+  Decoded run(Bytes const& stream) {
+    push_data(stream.data(), static_cast<int>(stream.size()));
+    return decoded_;
+  }
+
+ protected:
+  void on_psi_section(int, int table_id, int, unsigned char const* section) override {
+    switch (table_id) {
+      case 0x00:
+        decoded_.entries += parse<sivane::Pat>(section).program_infos.size();
+        return;
+      case 0x02:
+        return take_pmt(parse<sivane::Pmt>(section));
+      case 0x40:
+        return take_nit(parse<sivane::Nit>(section));
+      case 0x42:
+        return entries(parse<sivane::Sdt>(section).service_infos, take_of_service);
+      default:
+        return entries(parse<sivane::Eit>(section).event_infos, take_of_event);
+    }
+  }
+
+ private:
+  template <class Table>
+  Table parse(unsigned char const* section) {
+    Table table;
+    table.Parse(section);
+    return table;
+  }
+  void take_pmt(sivane::Pmt const& pmt) {
+    take_of_program(decoded_, pmt);
+    entries(pmt.stream_infos, take_of_program);
+  }
+  void take_nit(sivane::Nit const& nit) {
+    take_of_network(decoded_, nit);
+    entries(nit.stream_infos, take_of_network);
+  }
+  template <class Entries>
+  void entries(Entries const& all, void (*take)(Decoded&, sivane::DescriptorSet const&)) {
+    decoded_.entries += all.size();
+    for (auto const& entry : all) take(decoded_, entry);
+  }
+
+  Decoded decoded_;
+};
+
+Decoded decode(Bytes const& stream) { return Host().run(stream); }
+
+constexpr std::size_t megabyte = 1000000;
+constexpr int times = 2;  // each round of tables, or libdvbpsi would not see a whole EIT
+
+/// `share` is how much of everything the library decodes: each of the `times`, or one.
+void against_dvbpsi(benchmark::State& state, sivane::bench::Stream const& stream, unsigned int share) {
+  Decoded theirs, ours;
+  sivane::bench::compare(
+      state, stream.bytes.size(), "the time of sivane",
+      [&] { theirs = sivane::bench::decode_with_dvbpsi(stream.bytes, Kinds::all); },
+      [&] { ours = decode(stream.bytes); });
+  bool const whole = ours.descriptors > 0 && ours == theirs.times(share);
+  if (!whole) state.SkipWithError("the two got different things");
+}
+
+void tables(benchmark::State& state) {
+  against_dvbpsi(state, sivane::bench::tables_stream(64 * megabyte, times), times);
+}
+
+void multiplex(benchmark::State& state) {
+  against_dvbpsi(state, sivane::bench::multiplex_stream(256 * megabyte, times), times);
+}
+
+}  // namespace
+
+BENCHMARK(tables)
+    ->Name("libdvbpsi, tables alone, each twice, which it decodes once")
+    ->Apply(sivane::bench::five_times);
+BENCHMARK(multiplex)
+    ->Name("libdvbpsi, a multiplex with 3 % of such tables")
+    ->Apply(sivane::bench::five_times);
