@@ -7,6 +7,7 @@
 
 #include "console.h"
 #include "exit_status.h"
+#include "help_texts.h"
 #include "nearest_word.h"
 
 namespace inspect {
@@ -19,12 +20,8 @@ void add_options_of_streams(CLI::App& command, Arguments& arguments) {
       ->type_name("PID:TABLE_ID")
       ->expected(1)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-  command.add_option("--seconds", arguments.seconds, "End the run after so many seconds")
-      ->type_name("N")
-      ->check(CLI::NonNegativeNumber);
-  command.add_option("--packets", arguments.packets, "End the run after so many packets")
-      ->type_name("N")
-      ->check(CLI::NonNegativeNumber);
+  command.add_option("--seconds", arguments.seconds, "End the run after so many seconds")->type_name("N");
+  command.add_option("--packets", arguments.packets, "End the run after so many packets")->type_name("N");
   command.add_flag("--follow", arguments.follow, "Wait for more at the end of a file");
   command.add_flag("-q,--quiet", arguments.quiet,
                    "No progress, no counts at the end; failures are still told");
@@ -79,36 +76,18 @@ int leave(CLI::App const& app, CLI::ParseError const& reason) {
   return unusable;
 }
 
-constexpr char const* footer =
-    "Kinds of input:\n"
-    "  ts        packets of 188, 192 or 204 bytes, found by themselves; what is none is skipped\n"
-    "  packets   188-byte packets alone, and of each the first section that starts in it; the first packet\n"
-    "            that does not begin with 0x47 ends the run\n"
-    "  sections  a section on each line, in hexadecimal; a class name and a blank in front, as in\n"
-    "            'Pat 00b00d...', choose the class that it is read with; lines of the command sections, too\n"
-    "  xml       a document as the command xml writes it; for dump and xml\n"
-    "\n"
-    "Sources: a file or named pipe, - for standard input, udp://[@]GROUP:PORT[?localaddr=ADDRESS], or rtp:// "
-    "the\n"
-    "same. SIGINT and SIGTERM end a run as the end of its input would.\n"
-    "\n"
-    "PIDs and table ids are numbers as in C: --handle 0x11:0x42 --handle 17:70\n"
-    "\n"
-    "Exit status: 0 all is well; 1 a section failed, each with a line on standard error; 2 wrong usage,\n"
-    "or the input cannot be read.\n";
-
 }  // namespace
 
 void add_commands(CLI::App& app, Arguments& arguments) {
   app.set_version_flag("--version", "sivane-inspect " SIVANE_VERSION);
   app.require_subcommand(1);
-  app.footer(footer);
+  app.footer(help_footer());
   app.get_formatter()->label("SUBCOMMAND", "COMMAND");
   for (CommandRow const& row : command_list()) add_command(app, row, arguments);
 }
 
 CommandLine read_command_line(int argc, char** argv) {
-  CLI::App app("Shows what is in an MPEG-2/DVB transport stream.", "sivane-inspect");
+  CLI::App app(program_purpose, program_name);
   Arguments arguments;
   add_commands(app, arguments);
   try {

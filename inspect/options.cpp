@@ -56,6 +56,14 @@ Input input_of(CommandRow const& row, std::string const& name) {
       "--input", std::string(row.name) + " reads " + listed + " and not " + name + suggestion(name, words));
 }
 
+void refuse_negative_numbers(Arguments const& arguments) {
+  constexpr double longest = 1e9;  // which is 30 years
+  if (arguments.seconds && !(*arguments.seconds >= 0 && *arguments.seconds <= longest))
+    throw CLI::ValidationError("--seconds", "not a number from 0 to 1,000,000,000");
+  if (arguments.packets && *arguments.packets < 0)
+    throw CLI::ValidationError("--packets", "not a number from 0 on");
+}
+
 void refuse_what_has_no_packets(Options const& options) {
   if (options.input == Input::ts || options.input == Input::packets) return;
   if (!options.handles.empty())
@@ -67,6 +75,7 @@ void refuse_what_has_no_packets(Options const& options) {
 }  // namespace
 
 Options understand(CommandRow const& row, Arguments const& arguments) {
+  refuse_negative_numbers(arguments);
   Options options;
   options.command = &row;
   options.input = input_of(row, arguments.input);
