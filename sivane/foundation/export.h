@@ -3,8 +3,9 @@
 #pragma once
 
 /// SIVANE_API marks what the shared library offers to a host; everything else stays hidden in it.
-/// SIVANE_LOCAL hides a part of something that is offered.
-#if defined(__GNUC__)
+/// SIVANE_LOCAL hides a part of something that is offered. On Windows, where nothing is marked, the linker of
+/// MinGW offers everything.
+#if defined(__GNUC__) && !defined(_WIN32)
 #define SIVANE_API __attribute__((visibility("default")))
 #define SIVANE_LOCAL __attribute__((visibility("hidden")))
 #else

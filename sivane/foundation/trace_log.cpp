@@ -1,19 +1,23 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/trace_log.h>
-#include <sys/syscall.h>
 #include <unistd.h>
+#ifdef __linux__
+#include <sys/syscall.h>
+#endif
 
 #include <algorithm>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <functional>
 #include <string_view>
+#include <thread>
 
 namespace sivane {
 
-constinit TraceLog trace_log;
+TraceLog trace_log;
 
 namespace {
 
@@ -35,7 +39,7 @@ class Line {
     size_ += end.size();
   }
   void write_to(int file) const {
-    if (::write(file, bytes_, size_) < 0) return;  // a record that cannot be written is lost
+    if (::write(file, bytes_, static_cast<unsigned int>(size_)) < 0) return;  // a lost record goes unnoticed
   }
 
  private:
@@ -52,14 +56,21 @@ void append_local_time(Line& line) {
               local.tm_hour, local.tm_min, local.tm_sec, static_cast<int>(now.tv_nsec / 1000000));
 }
 
+/// The number that the system has for the thread, or one of the standard library's where it offers none.
+unsigned int thread_number() {
+#ifdef __linux__
+  return static_cast<unsigned int>(syscall(SYS_gettid));
+#else
+  return static_cast<unsigned int>(std::hash<std::thread::id>()(std::this_thread::get_id()));
+#endif
+}
+
 char const* level_name(int level) { return level == 1 ? "error" : level == 2 ? "warning" : "info"; }
 
 void append_chosen_fields(Line& line, int level) {
   unsigned int const chosen = trace_log.log_options;
   if (chosen & TraceLog::process_id) line.append("\"0x%08x\",", static_cast<unsigned int>(getpid()));
-  if (chosen & TraceLog::thread_id) {
-    line.append("\"0x%08x\",", static_cast<unsigned int>(syscall(SYS_gettid)));
-  }
+  if (chosen & TraceLog::thread_id) line.append("\"0x%08x\",", thread_number());
   if (chosen & TraceLog::level_number) line.append("%d,", level);
   if (chosen & TraceLog::level_text) line.append("\"%-7s\",", level_name(level));
 }
