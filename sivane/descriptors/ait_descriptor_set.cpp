@@ -14,8 +14,9 @@ void AitDescriptorSet::ParseDescriptorAit(DescriptorBytes descriptor) {
   rows[row].parse(groups_, row, descriptor);
 }
 
-bool AitDescriptorSet::parse_descriptors(Reader& reader, int size, Failure overrun) {
-  return reader.each_descriptor(size, overrun, [this](DescriptorBytes d) { ParseDescriptorAit(d); });
+void AitDescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
+  reader.each_descriptor(
+      size, failure, [this](DescriptorBytes d) { ParseDescriptorAit(d); }, end);
 }
 
 void AitDescriptorSet::clear_general_descriptors() {

@@ -20,7 +20,7 @@ class SIVANE_API AitDescriptorSet {
   /// As `DescriptorSet::ParseDescriptor`.
   void ParseDescriptorAit(DescriptorBytes descriptor);
   /// As `DescriptorSet::parse_descriptors`.
-  bool parse_descriptors(Reader& reader, int size, Failure overrun);
+  void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);
   /// Empties the vector of `get_general_descriptors`.
   void clear_general_descriptors();
   /// All of them, vector by vector.

@@ -21,7 +21,7 @@ DescriptorCellList::CellListData::CellListData(Reader& r) {
   cell_extend_of_latitude = r.bits(12);
   cell_extend_of_longitude = r.bits(12);
   subcell_info_length = r.u8();
-  if (subcell_info_length % 8 != 0) throw error(error::item_length_error);
+  if (subcell_info_length % 8 != 0) r.fail({error::item_length_error}, -1);
   sub_cell_info = r.sub(subcell_info_length).walk<SubCellInfo>();
 }
 
@@ -47,7 +47,7 @@ DescriptorCellFrequncyLink::CellFrequencyLinkData::CellFrequencyLinkData(Reader&
   cell_id = r.u16();
   frequency = r.u32();
   sub_cell_info_length = r.u8();
-  if (sub_cell_info_length % 5 != 0) throw error(error::item_length_error);
+  if (sub_cell_info_length % 5 != 0) r.fail({error::item_length_error}, -1);
   sub_cell_info = r.sub(sub_cell_info_length).walk<SubCellInfo>();
 }
 

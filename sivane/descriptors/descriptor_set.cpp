@@ -14,8 +14,9 @@ void DescriptorSet::ParseDescriptor(DescriptorBytes descriptor) {
   rows[row].parse(groups_, row, descriptor);
 }
 
-bool DescriptorSet::parse_descriptors(Reader& reader, int size, Failure overrun) {
-  return reader.each_descriptor(size, overrun, [this](DescriptorBytes d) { ParseDescriptor(d); });
+void DescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
+  reader.each_descriptor(
+      size, failure, [this](DescriptorBytes d) { ParseDescriptor(d); }, end);
 }
 
 void DescriptorSet::clear_general_descriptors() {

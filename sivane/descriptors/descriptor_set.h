@@ -28,10 +28,9 @@ class SIVANE_API DescriptorSet {
   /// Builds the class of the descriptor's tag and appends it to its vector. A descriptor that throws is not
   /// filed; those before it stay.
   void ParseDescriptor(DescriptorBytes descriptor);
-  /// Files the descriptors that start within the next `size` bytes of `reader`, and steps over them. The last
-  /// one may run over the `size` bytes; true if it does not. Throws `overrun` where one would leave the
-  /// section.
-  bool parse_descriptors(Reader& reader, int size, Failure overrun);
+  /// Files the descriptors that start within the next `size` bytes of `reader`, and steps over those bytes.
+  /// Throws `failure` where one would leave the section, or, if the loop's end is `exact`, the bytes.
+  void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);
   /// Empties every vector.
   void clear_descriptors() { groups_ = {}; }
   /// Empties the vector of `get_general_descriptors`.

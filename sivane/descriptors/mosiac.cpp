@@ -43,7 +43,7 @@ DescriptorMosiac::CellInfo::CellInfo(Reader& r) {
       eventinfo = EventInfo(r);
       break;
     default:
-      throw error(error::syntax_error);
+      r.fail({error::syntax_error}, -1);
   }
 }
 

@@ -290,7 +290,7 @@ DescriptorAssociationTag::DescriptorAssociationTag(DescriptorBytes d) : Descript
   use = r.u16();
   selector_length = r.u8();
   if ((use == 0 && selector_length != 8) || (use == 1 && selector_length != 0)) {
-    throw error(error::length_error, "association_tag_descriptor:selector_length");
+    r.fail({error::length_error, "association_tag_descriptor:selector_length"}, -1);
   }
   if (use == 0) {
     transaction_id = r.u32();

@@ -35,8 +35,18 @@ class SIVANE_API error : private std::exception {
   virtual char const* what() const noexcept;
 
   errorcode_enum code = no_errorcode;
-  unsigned int value = 0;  ///< of a section's `syntax_error`: the low 32 bits of the byte's address
-  std::string text;        ///< the message
+  /// 0xFFFFFFFF where `code` is all that there is, or `text` alone; of a section's header bits the low 32
+  /// bits of the address of the section's first or second byte. With `length_error` it means nothing.
+  unsigned int value = 0;
+  std::string text;  ///< the message
+  /// Where in the section, in bytes from its table_id on; -1 where there is no section: packets, documents,
+  /// and entries or descriptors built from a bare pointer.
+  ///
+  /// A field that leaves the section gives the byte at which it begins; an entry, record or descriptor that
+  /// does not end where it should, its own first byte; a length or another value that is refused, that field.
+  /// The failures of a header: byte 1 for its bits, 0 for the table id, the stored CRC for a wrong one; and
+  /// for a section that is cut, the first byte that is missing.
+  int offset = -1;
 };
 
 }  // namespace sivane

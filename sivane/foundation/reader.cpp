@@ -7,22 +7,32 @@
 
 namespace sivane {
 
-void raise(Failure failure) {
-  if (failure.text == nullptr) throw error(failure.code);
-  if (failure.code == error::no_errorcode) throw error(failure.text);
-  throw error(failure.code, failure.text);
+namespace {
+
+error as_error(Failure failure) {
+  if (failure.text == nullptr) return {failure.code};
+  if (failure.code == error::no_errorcode) return {failure.text};
+  return {failure.code, failure.text};
+}
+
+}  // namespace
+
+void raise(Failure failure, int offset) {
+  error thrown = as_error(failure);
+  thrown.offset = offset;
+  throw thrown;
 }
 
 DescriptorBytes::DescriptorBytes(unsigned char const* descriptor)
-    : first(descriptor), limit(descriptor + 2 + descriptor[1]) {}
+    : first(descriptor), available(2 + descriptor[1]), offset(-1) {}
 
-DescriptorBytes::DescriptorBytes(unsigned char const* descriptor, unsigned char const* end)
-    : first(descriptor), limit(end) {
-  if (end - descriptor < 2) raise(too_little_data);
+DescriptorBytes::DescriptorBytes(unsigned char const* descriptor, unsigned char const* end, int begin)
+    : first(descriptor), available(static_cast<int>(end - descriptor)), offset(begin) {
+  if (available < 2) raise(too_little_data, begin);
 }
 
 Reader DescriptorBytes::body(Failure overrun) const {
-  return {first + 2, length(), static_cast<int>(limit - first) - 2, overrun};
+  return {first + 2, length(), available - 2, overrun, offset < 0 ? -1 : offset + 2};
 }
 
 Reader Reader::trusting(unsigned char const* first) { return within(first, std::numeric_limits<int>::max()); }
@@ -54,24 +64,32 @@ std::vector<unsigned char> Reader::bytes(int size) {
   return {first, first + count_of(size)};
 }
 
+void Reader::fail(Failure failure, int distance) const {
+  raise(failure, begin_ < 0 ? -1 : offset() + distance);
+}
+
 void Reader::code(char (&three_letters)[4]) {
   std::copy_n(raw(3), 3, three_letters);
   three_letters[3] = '\0';
 }
 
 Reader Reader::sub(int size, Failure overrun) {
-  unsigned char const* const first = raw(size);
-  return {first, size, size + static_cast<int>((limit_ - position_) / 8), overrun};
+  Reader const own = loop(size, overrun);
+  raw(size);
+  return own;
 }
 
 Reader Reader::loop(int size, Failure overrun) const {
-  return {at(position_), size, static_cast<int>((limit_ - position_) / 8), overrun};
+  return {at(position_), size, static_cast<int>((limit_ - position_) / 8), overrun, offset()};
 }
 
 DescriptorBytes Reader::descriptor() {
-  unsigned char const* const first = raw(2);
-  raw(first[1]);
-  return {first, at(limit_)};
+  unsigned char const* const first = at(position_);
+  std::size_t const available = (limit_ - position_) / 8;
+  if (available < 2 || available < 2u + first[1]) fail(overrun_);
+  DescriptorBytes const found(first, at(limit_), offset());
+  raw(2 + first[1]);
+  return found;
 }
 
 }  // namespace sivane

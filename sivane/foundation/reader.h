@@ -17,19 +17,24 @@ struct Failure {
   error::errorcode_enum code = error::no_errorcode;
   char const* text = nullptr;
 };
-[[noreturn]] SIVANE_API void raise(Failure failure);
+/// Throws it as an `error`; `offset` is where in the section.
+[[noreturn]] SIVANE_API void raise(Failure failure, int offset = -1);
 
 /// Thrown where no rule names another failure.
 inline constexpr Failure too_little_data{error::no_errorcode, "too little data"};
 
 class Reader;
 
-/// One descriptor and how far its reading may go. A bare pointer is bounded by the descriptor's own length
-/// byte.
+/// Whether the last descriptor of a loop may run over the loop.
+enum class LoopEnd { open, exact };
+
+/// One descriptor, how far its reading may go, and where in its section it begins. A bare pointer is bounded
+/// by the descriptor's own length byte and belongs to no section.
 struct SIVANE_API DescriptorBytes {
   DescriptorBytes(unsigned char const* descriptor);
-  /// `end` is where the section ends. Throws "too little data" where not even tag and length stand before it.
-  DescriptorBytes(unsigned char const* descriptor, unsigned char const* end);
+  /// `end` is where the section ends, `begin` the descriptor's offset in it, -1 for none. Throws "too little
+  /// data" where not even tag and length stand before the end.
+  DescriptorBytes(unsigned char const* descriptor, unsigned char const* end, int begin = -1);
 
   int tag() const { return first[0]; }
   int length() const { return first[1]; }
@@ -37,7 +42,8 @@ struct SIVANE_API DescriptorBytes {
   Reader body(Failure overrun = too_little_data) const;
 
   unsigned char const* first;
-  unsigned char const* limit;
+  int available;  ///< bytes from `first` on that may be read
+  int offset;     ///< bytes from the start of the section to `first`; -1 where there is none
 };
 
 /// Reads big-endian fields of any width in order: everything in the library that reads bytes does it through
@@ -46,12 +52,14 @@ struct SIVANE_API DescriptorBytes {
 /// A reader has two ends. Its own bytes stop at its end, which is what `more`, `left` and `rest` go by.
 /// Single fields may run over it, since many length fields of broadcasts are wrong, but never over its limit,
 /// which is the end of the section: such a read throws the failure that the reader was made with. Sizes are
-/// in bytes; one below 0 counts as none.
+/// in bytes; one below 0 counts as none. Where the reader knows its place in a section, what it throws tells
+/// where: at the byte where the field begins that cannot be read.
 class SIVANE_API Reader {
  public:
-  /// `size` bytes at `first` are the reader's own; `limit` bytes from `first` on may be read.
-  Reader(unsigned char const* first, int size, int limit, Failure overrun = too_little_data)
-      : first_(first), end_(bits_of(size)), limit_(bits_of(limit)), overrun_(overrun) {}
+  /// `size` bytes at `first` are the reader's own; `limit` bytes from `first` on may be read. `begin` is the
+  /// offset of `first` in the section, -1 where there is none.
+  Reader(unsigned char const* first, int size, int limit, Failure overrun = too_little_data, int begin = -1)
+      : first_(first), end_(bits_of(size)), limit_(bits_of(limit)), overrun_(overrun), begin_(begin) {}
   /// Exactly the bytes of a buffer.
   static Reader within(unsigned char const* first, int size, Failure overrun = too_little_data) {
     return {first, size, size, overrun};
@@ -94,11 +102,15 @@ class SIVANE_API Reader {
   /// may claim more than the limit holds: `overrun` is thrown by the read that gets there.
   Reader loop(int size, Failure overrun) const;
   /// Calls `take` with each descriptor that starts within the next `size` bytes, and steps over those bytes.
-  /// The last descriptor may run over them; true if it does not. Throws `overrun` where one passes the limit.
+  /// Throws `failure` where one passes the limit, or, if the loop's end is `exact`, the bytes themselves.
   template <class Take>
-  bool each_descriptor(int size, Failure overrun, Take take);
+  void each_descriptor(int size, Failure failure, Take take, LoopEnd end = LoopEnd::open);
 
-  /// Records of their own sizes up to the end; throws the reader's failure unless the last one ends there.
+  /// Records of their own sizes up to the end, behind those that `found` has, each built from the reader and
+  /// `arguments`; throws `failure` unless the last one ends there.
+  template <class Record, class... Arguments>
+  void walk(std::vector<Record>& found, Failure failure, Arguments... arguments);
+  /// The same from none on, with the reader's failure.
   template <class Record>
   std::vector<Record> walk();
   /// Records of `size` bytes up to the end; throws `failure` unless that is a whole number of them.
@@ -114,13 +126,17 @@ class SIVANE_API Reader {
   /// Whole bytes between the position and the reader's own end.
   int left() const { return more() ? static_cast<int>((end_ - position_) / 8) : 0; }
   int consumed() const { return static_cast<int>(position_ / 8); }
+  /// Bytes from the start of the section; -1 where there is none.
+  int offset() const { return offset_at(position_); }
+  /// Throws `failure`, whose place is `distance` bytes from the position: -1 for the byte that was read last.
+  [[noreturn]] void fail(Failure failure, int distance = 0) const;
   /// Throws `failure` if fewer than `size` bytes of the reader's own are left.
   void need(int size, Failure failure) const {
-    if (left() < size) raise(failure);
+    if (left() < size) fail(failure);
   }
   /// Throws `failure` if the bytes left are no whole number of items, or the position is behind the end.
   void need_whole(int item_size, Failure failure) const {
-    if (past_end() || left() % item_size != 0) raise(failure);
+    if (past_end() || left() % item_size != 0) raise(failure, offset_at(end_ - bits_of(left() % item_size)));
   }
 
  private:
@@ -128,24 +144,32 @@ class SIVANE_API Reader {
   static constexpr std::size_t bits_of(int bytes) { return count_of(bytes) * 8; }
   unsigned int number(int count);
   std::size_t take(std::size_t count) {
-    if (count > limit_ - position_) raise(overrun_);
+    if (count > limit_ - position_) fail(overrun_);
     position_ += count;
     return position_ - count;
   }
   unsigned char const* at(std::size_t bit) const { return first_ + bit / 8; }
+  int offset_at(std::size_t bit) const { return begin_ < 0 ? -1 : begin_ + static_cast<int>(bit / 8); }
 
   unsigned char const* first_;
   std::size_t position_ = 0;  // positions are in bits
   std::size_t end_;
   std::size_t limit_;
   Failure overrun_;
+  int begin_;  // where in the section `first_` is
 };
+
+template <class Record, class... Arguments>
+void Reader::walk(std::vector<Record>& found, Failure failure, Arguments... arguments) {
+  int begin = offset_at(end_);
+  for (; more(); found.emplace_back(*this, arguments...)) begin = offset();
+  if (past_end()) raise(failure, begin);
+}
 
 template <class Record>
 std::vector<Record> Reader::walk() {
   std::vector<Record> found;
-  while (more()) found.emplace_back(*this);
-  if (past_end()) raise(overrun_);
+  walk(found, overrun_);
   return found;
 }
 
@@ -168,11 +192,14 @@ std::vector<Number> Reader::numbers(int width, Failure failure) {
 }
 
 template <class Take>
-bool Reader::each_descriptor(int size, Failure overrun, Take take) {
-  Reader descriptors = loop(size, overrun);
-  while (descriptors.more()) take(descriptors.descriptor());
+void Reader::each_descriptor(int size, Failure failure, Take take, LoopEnd end) {
+  Reader descriptors = loop(size, failure);
+  while (descriptors.more()) {
+    DescriptorBytes const descriptor = descriptors.descriptor();
+    take(descriptor);
+    if (end == LoopEnd::exact && descriptors.past_end()) raise(failure, descriptor.offset);
+  }
   raw(size);
-  return !descriptors.past_end();
 }
 
 /// Builds a record from a bare pointer as its public constructors do; `consumed` is the bytes that it took.

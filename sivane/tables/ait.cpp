@@ -25,13 +25,11 @@ Ait::Application::Application(unsigned char const* data, int available, int& con
 }
 
 Ait::Application::Application(Reader& reader) {
-  require_head(reader.left(), entry_head_size, application_too_small);
+  reader.need(entry_head_size, application_too_small);
   application_identifer = ApplicationIdentifier(reader);
   application_control_code = reader.u8();
   application_descriptors_loop_length = length_field(reader);
-  if (!parse_descriptors(reader, application_descriptors_loop_length, descriptors_mismatch)) {
-    raise(descriptors_mismatch);
-  }
+  parse_descriptors(reader, application_descriptors_loop_length, descriptors_mismatch, LoopEnd::exact);
 }
 
 void Ait::Application::dump_state(std::ostream& os) const {
@@ -45,13 +43,10 @@ void Ait::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   reader.need(head_size, too_little_data);
   common_descriptors_length = length_field(reader);
-  if (!parse_descriptors(reader, common_descriptors_length, descriptors_mismatch)) {
-    raise(descriptors_mismatch);
-  }
+  parse_descriptors(reader, common_descriptors_length, descriptors_mismatch, LoopEnd::exact);
   application_loop_length = length_field(reader);
   Reader loop = reader.loop(application_loop_length, applications_mismatch);
-  while (loop.more()) application_infos.emplace_back(loop);
-  if (loop.past_end()) raise(applications_mismatch);
+  loop.walk(application_infos, applications_mismatch);
 }
 
 char const* Ait::get_application_type_text() const {

@@ -11,8 +11,8 @@ void Cat::_parse(unsigned char const* body) {
   Reader reader = body_reader(body, invalid_size);
   while (reader.more()) {
     DescriptorBytes const descriptor = reader.descriptor();
-    if (reader.past_end()) raise(invalid_size);
-    if (descriptor.tag() != ca_tag) raise(invalid_tag);
+    if (reader.past_end()) raise(invalid_size, descriptor.offset);
+    if (descriptor.tag() != ca_tag) raise(invalid_tag, descriptor.offset);
     ParseDescriptor(descriptor);
   }
 }

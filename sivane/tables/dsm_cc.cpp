@@ -6,7 +6,10 @@ namespace sivane {
 
 void DsmCC::_parse(unsigned char const* body) {
   constexpr int length_without_payload = 9;
-  if (section_length < length_without_payload) raise(too_little_data);
+  constexpr int bytes_before_length_counts = 3;
+  if (section_length < length_without_payload) {
+    raise(too_little_data, section_length + bytes_before_length_counts);
+  }
   data = body_reader(body).rest();
 }
 

@@ -42,8 +42,7 @@ void Eit::_parse(unsigned char const* body) {
   original_network_id = reader.u16();
   segment_last_section_number = reader.u8();
   last_table_id = reader.u8();
-  while (reader.more()) event_infos.emplace_back(reader);
-  if (reader.past_end()) raise(start_end_mismatch);
+  reader.walk(event_infos, start_end_mismatch);
 }
 
 char const* Eit::get_table_id_text(int table_id) {

@@ -31,8 +31,7 @@ void parse_network_body(Table& table, Reader reader) {
   Reader loop = reader.loop(loop_length, start_end_mismatch);
   // Each entry is told the length of the whole loop, so that only a loop too short for any has too little
   // data.
-  while (loop.more()) table.stream_infos.emplace_back(loop, loop_length);
-  if (loop.past_end()) raise(start_end_mismatch);
+  loop.walk(table.stream_infos, start_end_mismatch, loop_length);
 }
 
 }  // namespace sivane

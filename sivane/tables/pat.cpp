@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump.h>
-#include <sivane/foundation/error.h>
 #include <sivane/tables/pat.h>
 
 #include <ostream>
@@ -25,10 +24,11 @@ void Pat::program_info::dump_state(std::ostream& os) const {
 }
 
 void Pat::_parse(unsigned char const* body) {
-  if ((section_length - length_without_entries) % entry_size != 0) {
-    throw error(error::length_error, "Pat parse error");
-  }
+  constexpr Failure parse_error{error::length_error, "Pat parse error"};
   Reader reader = body_reader(body);
+  if ((section_length - length_without_entries) % entry_size != 0) {
+    reader.fail(parse_error, reader.left() / entry_size * entry_size);
+  }
   program_infos.reserve(program_infos.size() + static_cast<std::size_t>(reader.left() / entry_size));
   while (reader.more()) program_infos.emplace_back(reader);
 }

@@ -47,7 +47,7 @@ PmtStreamInfo::PmtStreamInfo(_PMT_INFO* entry, int& size) {
 }
 
 PmtStreamInfo::PmtStreamInfo(Reader& reader) {
-  require_head(reader.left(), entry_head_size);
+  reader.need(entry_head_size, too_little_data);
   stream_type = reader.u8();
   elementary_pid = pid_field(reader);
   es_info_length = length_field(reader);
@@ -70,9 +70,8 @@ void Pmt::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   pcr_pid = pid_field(reader);
   int const program_info_length = length_field(reader);
-  if (!parse_descriptors(reader, program_info_length, start_end_mismatch)) raise(start_end_mismatch);
-  while (reader.more()) stream_infos.emplace_back(reader);
-  if (reader.past_end()) raise(start_end_mismatch);
+  parse_descriptors(reader, program_info_length, start_end_mismatch, LoopEnd::exact);
+  reader.walk(stream_infos, start_end_mismatch);
 }
 
 void Pmt::_reset() {

@@ -27,7 +27,7 @@ void Rst::Status::dump_state(std::ostream& os) const {
 
 void Rst::_parse(unsigned char const* body) {
   Reader reader = body_reader(body, start_end_mismatch);
-  while (reader.more()) status_infos.emplace_back(reader);
+  reader.walk(status_infos, start_end_mismatch);
 }
 
 void Rst::_reset() { status_infos.clear(); }

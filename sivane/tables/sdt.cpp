@@ -21,7 +21,7 @@ Sdt::Service_info::Service_info(unsigned char const* data, int& size) {
 }
 
 Sdt::Service_info::Service_info(Reader& reader) {
-  require_head(reader.left(), entry_head_size);
+  reader.need(entry_head_size, too_little_data);
   service_id = reader.u16();
   reader.skip_bits(6);
   EIT_schedule_flag = reader.bits(1);
@@ -46,8 +46,7 @@ void Sdt::_parse(unsigned char const* body) {
   Reader reader = body_reader(body, start_end_mismatch);
   original_network_id = reader.u16();
   reader.skip_bits(reserved_byte);
-  while (reader.more()) service_infos.emplace_back(reader);
-  if (reader.past_end()) raise(start_end_mismatch);
+  reader.walk(service_infos, start_end_mismatch);
 }
 
 void Sdt::_reset() { service_infos.clear(); }

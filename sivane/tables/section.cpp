@@ -6,6 +6,7 @@
 #include <sivane/tables/crc.h>
 #include <sivane/tables/section.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <iomanip>
 #include <ostream>
@@ -25,26 +26,32 @@ int length_field(unsigned char const* section) { return (section[1] & 0xF) << 8 
 int section_size(unsigned char const* section) { return length_field(section) + short_header_size; }
 
 void require_whole(unsigned char const* section, std::size_t available) {
-  if (available < short_header_size) raise(too_little_data);
-  if (available < static_cast<std::size_t>(section_size(section))) raise(too_little_data);
+  if (available < short_header_size || available < static_cast<std::size_t>(section_size(section))) {
+    raise(too_little_data, static_cast<int>(available));
+  }
 }
 
-/// The failure names the byte by the low 32 bits of its address.
-[[noreturn]] void syntax_failure(unsigned char const* byte) {
-  throw error(error::syntax_error, static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(byte)));
+/// All header bits are in byte 1; `named` is the byte whose address the failure names, by its low 32 bits.
+[[noreturn]] void syntax_failure(unsigned char const* named) {
+  error failure(error::syntax_error, static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(named)));
+  failure.offset = 1;
+  throw failure;
 }
+
+[[noreturn]] void id_failure() { raise({error::no_errorcode, "invalid table id"}, 0); }
 
 void check_crc(unsigned char const* section) {
-  std::uint32_t const crc = crc_register(section, static_cast<std::size_t>(section_size(section)));
+  int const size = section_size(section);
+  std::uint32_t const crc = crc_register(section, static_cast<std::size_t>(size));
   if (crc == 0) return;
   log_write(1, "crc error, got %#x expected 0xffffffff", ~crc);
-  throw error("crc error");
+  raise({error::no_errorcode, "crc error"}, std::max(size - crc_size, 0));
 }
 
-/// Of `size` bytes from `body` to the end of the section the last `trailer` are no part of the body.
-Reader make_body_reader(unsigned char const* body, int size, int trailer, Failure overrun) {
-  if (size < 0) raise(too_little_data);
-  return {body, size - trailer, size, overrun};
+/// The body begins behind `header` bytes of the section's `size`; the last `trailer` are no part of it.
+Reader make_body_reader(unsigned char const* body, int size, int header, int trailer, Failure overrun) {
+  if (size < header) raise(too_little_data, size);
+  return {body, size - header - trailer, size - header, overrun, header};
 }
 
 }  // namespace
@@ -57,7 +64,7 @@ void PsiTableBase::Parse(unsigned char const* section) {
   if (!is_valid_syntax_indicator(syntax_bit(section))) syntax_failure(section + 1);
   if (!is_valid_reserved_header(section[1] >> 4 & 3)) syntax_failure(section + 1);
   table_id = section[0];
-  if (!is_valid_tablesid()) throw error("invalid table id");
+  if (!is_valid_tablesid()) id_failure();
   read_header(section);
   _parse(section + long_header_size);
   valid = true;
@@ -70,7 +77,7 @@ void PsiTableBase::Parse(unsigned char const* section, std::size_t available) {
 
 void PsiTableBase::read_header(unsigned char const* section) {
   int const size = section_size(section);
-  if (size < long_header_size) raise(too_little_data);
+  if (size < long_header_size) raise(too_little_data, size);
   Reader reader = Reader::within(section, size);
   reader.skip_bits(short_header_size * 8);
   context_id = reader.u16();
@@ -83,7 +90,7 @@ void PsiTableBase::read_header(unsigned char const* section) {
 }
 
 Reader PsiTableBase::body_reader(unsigned char const* body, Failure overrun) const {
-  return make_body_reader(body, section_length + short_header_size - long_header_size, crc_size, overrun);
+  return make_body_reader(body, section_length + short_header_size, long_header_size, crc_size, overrun);
 }
 
 void PsiTableBase::reset() {
@@ -115,7 +122,7 @@ void PsiBase::Parse(unsigned char const* section) {
   if (!is_syntax_indicator_valid(syntax_bit(section))) syntax_failure(section);
   if ((section[1] & length_must_be_zero) != 0) syntax_failure(section + 1);
   table_id = section[0];
-  if (!is_valid_tablesid()) throw error("invalid table id");
+  if (!is_valid_tablesid()) id_failure();
   section_length = length_field(section);
   _parse(section + short_header_size);
   valid = true;
@@ -127,7 +134,7 @@ void PsiBase::Parse(unsigned char const* section, std::size_t available) {
 }
 
 Reader PsiBase::body_reader(unsigned char const* body, Failure overrun) const {
-  return make_body_reader(body, section_length, 0, overrun);
+  return make_body_reader(body, section_length + short_header_size, short_header_size, 0, overrun);
 }
 
 bool PsiBase::is_syntax_indicator_valid(int) const { return true; }

@@ -12,7 +12,7 @@ void Tot::_parse(unsigned char const* body) {
   Reader reader = body_reader(body);
   UTC_time = DateTime(reader);
   int const descriptors_loop_length = length_field(reader);
-  if (!parse_descriptors(reader, descriptors_loop_length, start_end_mismatch)) raise(start_end_mismatch);
+  parse_descriptors(reader, descriptors_loop_length, start_end_mismatch, LoopEnd::exact);
   crc32 = reader.u32();
 }
 

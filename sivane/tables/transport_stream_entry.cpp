@@ -20,7 +20,7 @@ TransportStreamEntry::TransportStreamEntry(unsigned char const* data, int& size)
 }
 
 TransportStreamEntry::TransportStreamEntry(Reader& reader, int available) {
-  require_head(available, entry_head_size);
+  if (available < entry_head_size) reader.fail(too_little_data);
   stream_id = reader.u16();
   network_id = reader.u16();
   int const transport_descriptors_length = length_field(reader);

@@ -240,25 +240,28 @@ TEST(DescriptorSet, WhatThrowsIsNotFiled) {
 constexpr Failure mismatch{error::length_error, "the loop's own"};
 
 /// Files a loop that claims `size` bytes of a section that these are all of; members of what came of it.
-std::string parse_loop(char const* section, int size) {
+std::string parse_loop(char const* section, int size, LoopEnd end = LoopEnd::open) {
   HeapBlock const bytes(hex(section));
   Reader reader = Reader::within(bytes.data(), bytes.size());
   DescriptorSet set;
-  bool const exact = set.parse_descriptors(reader, size, mismatch);
-  return members(exact, reader.consumed(), count_all(set));
+  set.parse_descriptors(reader, size, mismatch, end);
+  return members(reader.consumed(), count_all(set));
 }
 
 TEST(DescriptorSet, LoopsMayRunOverTheirSizeButNotOverTheSection) {
-  EXPECT_EQ(parse_loop("", 0), "1 0 0");
-  EXPECT_EQ(parse_loop("52 01 11", 0), "1 0 0");
-  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 6), "1 6 2");
+  EXPECT_EQ(parse_loop("", 0), "0 0");
+  EXPECT_EQ(parse_loop("52 01 11", 0), "0 0");
+  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 6), "6 2");
   // The last one runs over: it is filed, and the reader stands where the size says.
-  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 5), "0 5 2");
-  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 4), "0 4 2");
+  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 5), "5 2");
+  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 4), "4 2");
   // Its own length moves the walk, whatever its class reads.
-  EXPECT_EQ(parse_loop("52 00 70 01 22 42 00", 7), "1 7 3");
-  EXPECT_EQ(parse_loop("52 03 11 22 33 42 00", 7), "1 7 2");
+  EXPECT_EQ(parse_loop("52 00 70 01 22 42 00", 7), "7 3");
+  EXPECT_EQ(parse_loop("52 03 11 22 33 42 00", 7), "7 2");
 
+  EXPECT_EQ(parse_loop("52 01 11 70 01 22 FF FF", 6, LoopEnd::exact), "6 2");
+  EXPECT_TRUE(
+      throws([] { parse_loop("52 01 11 70 01 22 FF FF", 5, LoopEnd::exact); }, mismatch.code, mismatch.text));
   EXPECT_TRUE(throws([] { parse_loop("52 01 11 15 03 22 33", 7); }, mismatch.code, mismatch.text));
   EXPECT_TRUE(throws([] { parse_loop("52 01 11 15 01", 4); }, mismatch.code, mismatch.text));
   EXPECT_TRUE(throws([] { parse_loop("52 01 11 15", 4); }, mismatch.code, mismatch.text));

@@ -142,9 +142,12 @@ TEST(Reader, EachDescriptorMayRunOverTheLoopButNotOverTheLimit) {
                         {4, false, {0x52, 0x70}},
                         {7, true, {0x52, 0x70}}}) {
     Reader reader = Reader::within(block.data(), block.size());
+    Reader again = reader;
     std::vector<int> tags;
     auto const take = [&](DescriptorBytes d) { tags.push_back(d.tag()); };
-    EXPECT_EQ(reader.each_descriptor(c.size, named, take), c.exact);
+    EXPECT_EQ(fails_named([&] { again.each_descriptor(c.size, named, take, LoopEnd::exact); }), !c.exact);
+    tags.clear();
+    reader.each_descriptor(c.size, named, take);
     EXPECT_EQ(tags, c.tags);
     EXPECT_EQ(reader.consumed(), c.size);
   }

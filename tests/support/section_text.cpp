@@ -13,7 +13,7 @@ namespace {
 
 class Assembler {
  public:
-  explicit Assembler(std::string_view text) : rest_(text) {}
+  Assembler(std::string_view text, int* mark) : rest_(text), mark_(mark) {}
 
   Bytes run() {
     read_until(end_of_text);
@@ -42,6 +42,7 @@ class Assembler {
   void read(char c) {
     if (c == ' ' || c == '\n') return;
     if (c == '#') return skip_line();
+    if (c == '^' && mark_ != nullptr) return static_cast<void>(*mark_ = static_cast<int>(bytes_.size()));
     if (c == '"') return read_characters();
     if (c == '[') return read_counted(']', 1, 0);
     if (c == 'c' && rest_.starts_with("rc")) return leave_room_for_crc();
@@ -88,12 +89,13 @@ class Assembler {
   }
 
   std::string_view rest_;
+  int* mark_;
   Bytes bytes_;
   std::ptrdiff_t crc_end_ = 0;
 };
 
 }  // namespace
 
-Bytes assemble(std::string_view text) { return Assembler(text).run(); }
+Bytes assemble(std::string_view text, int* mark) { return Assembler(text, mark).run(); }
 
 }  // namespace sivane::testing

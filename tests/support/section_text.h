@@ -14,8 +14,8 @@ namespace sivane::testing {
 ///
 /// Hexadecimal digits and quoted characters stand for themselves, blanks for nothing. `[ ]` begins with a
 /// byte that counts what is within, `x( )` with the digit x and twelve bits that count it; a signed number
-/// right behind the bracket is added to the count. `crc` is the CRC_32 of all that stands before it. Throws
-/// on anything else.
-Bytes assemble(std::string_view text);
+/// right behind the bracket is added to the count. `crc` is the CRC_32 of all that stands before it. `^` is
+/// no byte: how many stand before it goes into `mark`, if there is one. Throws on anything else.
+Bytes assemble(std::string_view text, int* mark = nullptr);
 
 }  // namespace sivane::testing

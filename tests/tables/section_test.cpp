@@ -76,6 +76,7 @@ void expect_failure(Probe<Frame>& probe, Bytes const& bytes, char const* text, i
   auto const address = reinterpret_cast<std::uintptr_t>(section.data() + value_at);
   EXPECT_EQ(failure->value, value_at < 0 ? 0xFFFFFFFF : static_cast<unsigned int>(address));
   EXPECT_EQ(failure->code, value_at < 0 ? error::no_errorcode : error::syntax_error);
+  EXPECT_TRUE(value_at < 0 || failure->offset == 1);  // the header bits are in one byte
   EXPECT_STREQ(failure->what(), text);
 }
 
