@@ -15,6 +15,9 @@
 
 namespace sivane {
 
+class AitDescriptorSet;
+class DescriptorSet;
+
 struct DescriptorGroups::Group {
   Group(int number, std::unique_ptr<Group> behind) : row(number), next(std::move(behind)) {}
   virtual ~Group() = default;
@@ -32,12 +35,9 @@ struct DescriptorStorage {
 
   template <class Descriptor>
   struct GroupOf final : Group {
-    using Group::Group;
-    Link copy() const override {
-      auto alone = std::make_unique<GroupOf>(row, nullptr);
-      alone->items = items;
-      return alone;
-    }
+    GroupOf(int number, Link behind, std::vector<Descriptor> held = {})
+        : Group(number, std::move(behind)), items(std::move(held)) {}
+    Link copy() const override { return std::make_unique<GroupOf>(row, nullptr, items); }
     std::size_t size() const override { return items.size(); }
     DescriptorBase const& at(std::size_t index) const override { return items[index]; }
 
@@ -92,18 +92,35 @@ struct DescriptorStorage {
   }
 };
 
-/// A row of a set: which tag is filed there, and how.
+/// A row of a set: which tag is filed there, and how a descriptor comes there from bytes and from its
+/// element.
 struct DescriptorRow {
   enum Kind : int { user_private = -1, other = -2 };  // in place of a tag, for those that have no class
 
   int tag;
   void (*parse)(DescriptorGroups&, int row, DescriptorBytes);
+  void (*load)(DescriptorGroups&, int row, void* node);
 };
 
 template <class Descriptor>
 void parse_into_row(DescriptorGroups& groups, int row, DescriptorBytes bytes) {
   DescriptorStorage::append(groups, row, Descriptor(bytes));
 }
+
+template <class Descriptor>
+void load_into_row(DescriptorGroups& groups, int row, void* node) {
+  Descriptor descriptor;
+  descriptor.Parse(node);
+  DescriptorStorage::append(groups, row, std::move(descriptor));
+}
+
+/// The rows of a set. They are made in the set's own source alone: what each costs the compiler is paid once.
+template <class Set>
+DescriptorRow const* rows_of();
+template <>
+DescriptorRow const* rows_of<DescriptorSet>();
+template <>
+DescriptorRow const* rows_of<AitDescriptorSet>();
 
 /// The row of each tag: its own; without one, `user_private` from 0x80 on and `other` below.
 template <std::size_t count>

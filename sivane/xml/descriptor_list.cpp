@@ -11,11 +11,9 @@
 #include <sivane/xml/node.h>
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
+#include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace sivane {
 
@@ -23,36 +21,26 @@ using xml::Archive;
 
 namespace {
 
-struct ElementRow {
-  std::u16string_view name;
-  void (*load)(DescriptorGroups&, int row, void* node);
-};
+using Name = std::u16string_view;
 
-template <class Descriptor>
-void load_into_row(DescriptorGroups& groups, int row, void* node) {
-  Descriptor descriptor;
-  descriptor.Parse(node);
-  DescriptorStorage::append(groups, row, std::move(descriptor));
-}
-
-#define SIVANE_ELEMENT_ROW(tag, Class, getter, element) {u"" element, &load_into_row<Class>},
-#define SIVANE_ROW SIVANE_ELEMENT_ROW
-constexpr ElementRow rows[] = {
+#define SIVANE_NAME(tag, Class, getter, element) u"" element,
+#define SIVANE_ROW SIVANE_NAME
+constexpr Name names[] = {
 #include <sivane/descriptors/descriptor_rows.inc>
 };
-#define SIVANE_ROW SIVANE_ELEMENT_ROW
-constexpr ElementRow ait_rows[] = {
+#define SIVANE_ROW SIVANE_NAME
+constexpr Name ait_names[] = {
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 };
 
 /// A descriptor that is refused half way stands in the tree with what it got; one that gets no element is
 /// left out.
-void save_list(DescriptorGroups const& groups, ElementRow const* element_rows, void* document, void* owner) {
+void save_list(DescriptorGroups const& groups, Name const* element_names, void* document, void* owner) {
   auto* const dom = static_cast<IXMLDOMDocument*>(document);
   CComPtr<IXMLDOMElement> const list = xml::create(dom, u"descriptors");
   if (!list) return;
   DescriptorStorage::each(groups, [&](int row, DescriptorBase const& descriptor) {
-    CComPtr<IXMLDOMElement> const element = xml::create(dom, element_rows[row].name.data());
+    CComPtr<IXMLDOMElement> const element = xml::create(dom, element_names[row].data());
     if (!element) return;
     descriptor.SaveSection(document, element.get());
     list->appendChild(element.get(), nullptr);
@@ -60,23 +48,23 @@ void save_list(DescriptorGroups const& groups, ElementRow const* element_rows, v
   if (owner != nullptr) static_cast<IXMLDOMNode*>(owner)->appendChild(list.get(), nullptr);
 }
 
-template <std::size_t count>
-void load_element(DescriptorGroups& groups, ElementRow const (&element_rows)[count], IXMLDOMNode* element) {
+void load_element(DescriptorGroups& groups, std::span<Name const> element_names, DescriptorRow const* rows,
+                  IXMLDOMNode* element) {
   std::u16string const name = xml::node_name(element, "failed to get node name");
-  auto const* const row = std::find_if(std::begin(element_rows), std::end(element_rows),
-                                       [&name](ElementRow const& known) { return known.name == name; });
-  if (row == std::end(element_rows)) return;
-  row->load(groups, static_cast<int>(row - element_rows), element);
+  auto const found = std::find(element_names.begin(), element_names.end(), name);
+  if (found == element_names.end()) return;
+  auto const row = found - element_names.begin();
+  rows[row].load(groups, static_cast<int>(row), element);
 }
 
-template <std::size_t count>
-void load_list(DescriptorGroups& groups, ElementRow const (&element_rows)[count], void* owner) {
+void load_list(DescriptorGroups& groups, std::span<Name const> element_names, DescriptorRow const* rows,
+               void* owner) {
   CComPtr<IXMLDOMNode> const list =
       xml::select(static_cast<IXMLDOMNode*>(owner), u"descriptors", "failed to get descriptors node");
   xml::Children const children(
       list.get(), {"failed to get descriptors node list", "failed to get descriptors node list length",
                    "failed to get item"});
-  for (long i = 0; i < children.count(); ++i) load_element(groups, element_rows, children.at(i).get());
+  for (long i = 0; i < children.count(); ++i) load_element(groups, element_names, rows, children.at(i).get());
 }
 
 void head(Archive& ar, DescriptorBase& d) {
@@ -87,22 +75,22 @@ void head(Archive& ar, DescriptorBase& d) {
 }  // namespace
 
 bool DescriptorSet::_save_descriptors(void* document, void* element) const {
-  save_list(groups_, rows, document, element);
+  save_list(groups_, names, document, element);
   return true;
 }
 
 bool DescriptorSet::_parse_descriptors(void* node) {
-  load_list(groups_, rows, node);
+  load_list(groups_, names, rows_of<DescriptorSet>(), node);
   return true;
 }
 
 bool AitDescriptorSet::_save_descriptors(void* document, void* element) const {
-  save_list(groups_, ait_rows, document, element);
+  save_list(groups_, ait_names, document, element);
   return true;
 }
 
 bool AitDescriptorSet::_parse_descriptors(void* node) {
-  load_list(groups_, ait_rows, node);
+  load_list(groups_, ait_names, rows_of<AitDescriptorSet>(), node);
   return true;
 }
 
