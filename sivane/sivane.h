@@ -15,6 +15,7 @@
 
 // From packets to sections: derive from one of the drivers.
 #include <sivane/demux/demux.h>
+#include <sivane/demux/packet_finder.h>
 
 // Descriptors, filed by tag as the tables hold them; the two sets bring every descriptor class.
 #include <sivane/descriptors/ait_descriptor_set.h>
