@@ -3,17 +3,14 @@
 //
 // The whole way from packets to decoded descriptors, beside libdvbpsi on the same bytes. Both sides count
 // what they got, and must agree.
-#include <sivane/sivane.h>
-
 #include "compare.h"
 #include "peer.h"
-#include "streams.h"
+#include "tables_host.h"
 
 namespace {
 
 using sivane::bench::Decoded;
 using sivane::bench::Kinds;
-using sivane::testing::Bytes;
 
 /// The numbers of what one vector of a set holds.
 template <class Descriptor, class Read>
@@ -73,64 +70,40 @@ void take_of_service(Decoded& decoded, sivane::DescriptorSet const& set) {
   take(decoded, set.get_CA_identifiers_descriptors(), [](auto& d) { return d.CA_system_id.size(); });
 }
 
-class Host final : public sivane::DemuxPush {
+class Host final : public sivane::bench::TablesHost {
  public:
-  Host() {
-    add_psi_handler(sivane::bench::pat_pid, 0x00);
-    add_psi_handler(sivane::bench::nit_pid, 0x40);
-    add_psi_handler(sivane::bench::sdt_pid, 0x42);
-    add_psi_handler(sivane::bench::eit_pid, 0x4E);
-    add_psi_handler(sivane::bench::eit_pid, 0x50);
-    for (int i = 0; i < sivane::bench::services; ++i) add_psi_handler(sivane::bench::first_pmt_pid + i, 0x02);
-  }
-
-  Decoded run(Bytes const& stream) {
-    push_data(stream.data(), static_cast<int>(stream.size()));
-    return decoded_;
-  }
+  Decoded decoded;
 
  protected:
   void on_psi_section(int, int table_id, int, unsigned char const* section) override {
-    switch (table_id) {
-      case 0x00:
-        decoded_.entries += parse<sivane::Pat>(section).program_infos.size();
-        return;
-      case 0x02:
-        return take_pmt(parse<sivane::Pmt>(section));
-      case 0x40:
-        return take_nit(parse<sivane::Nit>(section));
-      case 0x42:
-        return entries(parse<sivane::Sdt>(section).service_infos, take_of_service);
-      default:
-        return entries(parse<sivane::Eit>(section).event_infos, take_of_event);
-    }
+    sivane::bench::with_table(table_id, section, [this](auto const& table) { take(table); });
   }
 
  private:
-  template <class Table>
-  Table parse(unsigned char const* section) {
-    Table table;
-    table.Parse(section);
-    return table;
-  }
-  void take_pmt(sivane::Pmt const& pmt) {
-    take_of_program(decoded_, pmt);
+  void take(sivane::Pat const& pat) { decoded.entries += pat.program_infos.size(); }
+  void take(sivane::Pmt const& pmt) {
+    take_of_program(decoded, pmt);
     entries(pmt.stream_infos, take_of_program);
   }
-  void take_nit(sivane::Nit const& nit) {
-    take_of_network(decoded_, nit);
+  void take(sivane::Nit const& nit) {
+    take_of_network(decoded, nit);
     entries(nit.stream_infos, take_of_network);
   }
-  template <class Entries>
-  void entries(Entries const& all, void (*take)(Decoded&, sivane::DescriptorSet const&)) {
-    decoded_.entries += all.size();
-    for (auto const& entry : all) take(decoded_, entry);
-  }
+  void take(sivane::Sdt const& sdt) { entries(sdt.service_infos, take_of_service); }
+  void take(sivane::Eit const& eit) { entries(eit.event_infos, take_of_event); }
 
-  Decoded decoded_;
+  template <class Entries>
+  void entries(Entries const& all, void (*take_of)(Decoded&, sivane::DescriptorSet const&)) {
+    decoded.entries += all.size();
+    for (auto const& entry : all) take_of(decoded, entry);
+  }
 };
 
-Decoded decode(Bytes const& stream) { return Host().run(stream); }
+Decoded decode(sivane::testing::Bytes const& stream) {
+  Host host;
+  host.push(stream);
+  return host.decoded;
+}
 
 constexpr std::size_t megabyte = 1000000;
 constexpr int times = 2;  // each round of tables, or libdvbpsi would not see a whole EIT

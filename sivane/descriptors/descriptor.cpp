@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/descriptor.h>
 #include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_line.h>
 
 #include <iomanip>
 #include <ostream>
@@ -9,8 +10,8 @@
 namespace sivane {
 
 void DescriptorBase::dump_state(std::ostream& os) const {
-  os << "descriptor_tag: " << std::hex << std::setfill('0') << std::setw(2) << tag << ' ' << get_tag_text()
-     << std::endl;
+  dump::Line line(os << std::hex << std::setfill('0'));
+  line.text("descriptor_tag: ").number(tag, 2).text(' ').text(get_tag_text()).end();
   _dump_state(os);
 }
 

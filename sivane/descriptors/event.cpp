@@ -159,9 +159,9 @@ void DescriptorLocalTimeOffset::LocalTime::dump_state(std::ostream& os) const {
   line(os, "country_code: ", country_code);
   line(os, "country_region_id: ", country_region_id);
   line(os, "local_time_offset_polarity: ", local_time_offset_polarity);
-  os << "local_time_offset: " << local_time_offset << std::endl;
-  os << "time_of_change: " << time_of_change << std::endl;
-  os << "next_time_offset: " << next_time_offset << std::endl;
+  dump::line(os, "local_time_offset: ", local_time_offset);
+  dump::line(os, "time_of_change: ", time_of_change);
+  dump::line(os, "next_time_offset: ", next_time_offset);
 }
 
 void DescriptorLocalTimeOffset::_dump_state(std::ostream& os) const { dump::each(os, localtime); }

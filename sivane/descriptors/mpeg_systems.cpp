@@ -3,8 +3,8 @@
 #include <sivane/descriptors/mpeg_systems.h>
 #include <sivane/descriptors/value_text.h>
 #include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_line.h>
 
-#include <iomanip>
 #include <ostream>
 
 namespace sivane {
@@ -149,7 +149,7 @@ char const* DescriptorCa::get_ca_provider1() const {
 }
 
 void DescriptorCa::_dump_state(std::ostream& os) const {
-  os << "sys_id: " << std::setw(4) << sys_id << ' ' << get_ca_provider1() << std::endl;
+  dump::Line(os).text("sys_id: ").number(sys_id, 4).text(' ').text(get_ca_provider1()).end();
   line(os, "pid: ", pid, 4);
   dump::block_if_any(os, "private data:", private_bytes);
 }

@@ -10,6 +10,10 @@
 
 namespace sivane {
 
+class DateTime;
+class Duration;
+class TimeOffset;
+
 /// Writes bytes as lines of 16: each as a two-wide hexadecimal number and a blank, then " : ", then the
 /// letters among them with a dot for any other byte. The stream stays hexadecimal. No bytes, no line.
 SIVANE_API void dump_block(std::ostream& os, unsigned char const* data, int size);
@@ -18,18 +22,21 @@ SIVANE_API void dump_block(std::ostream& os, unsigned char const* data, int size
 /// Every line ends with a flush. Base, fill and case of numbers are the stream's and stay as they are.
 namespace dump {
 
-SIVANE_API void line(std::ostream& os, char const* label, int value);
+/// A number is at least `width` characters wide, in the stream's fill.
+SIVANE_API void line(std::ostream& os, char const* label, int value, int width = 0);
 SIVANE_API void line(std::ostream& os, char const* label, unsigned int value);
-SIVANE_API void line(std::ostream& os, char const* label, unsigned long value);
+SIVANE_API void line(std::ostream& os, char const* label, unsigned long value, int width = 0);
 SIVANE_API void line(std::ostream& os, char const* label, double value);
-/// The number at least `width` characters wide, in the stream's fill.
-SIVANE_API void line(std::ostream& os, char const* label, int value, int width);
-SIVANE_API void line(std::ostream& os, char const* label, unsigned long value, int width);
 /// The byte itself, not its number.
 SIVANE_API void line(std::ostream& os, char const* label, unsigned char value);
 /// Text up to its first zero byte, raw.
 SIVANE_API void line(std::ostream& os, char const* label, char const* value);
 SIVANE_API void line(std::ostream& os, char const* label, std::string const& value);
+
+/// As `operator<<` of them: the stream becomes decimal.
+SIVANE_API void line(std::ostream& os, char const* label, DateTime const& value);
+SIVANE_API void line(std::ostream& os, char const* label, Duration const& value);
+SIVANE_API void line(std::ostream& os, char const* label, TimeOffset const& value);
 
 /// A heading on a line of its own, then the bytes as `dump_block` writes them.
 SIVANE_API void block(std::ostream& os, char const* heading, std::vector<unsigned char> const& bytes);

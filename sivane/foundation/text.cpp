@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_line.h>
 #include <sivane/foundation/text.h>
 
 namespace sivane {
@@ -33,10 +33,8 @@ LengthPrefixedString::LengthPrefixedString(Reader& reader)
     : length(reader.u8()), value(reader.string(length)) {}
 
 void LengthPrefixedString::dump_state(char const* label, std::ostream& os) const {
-  os << label;
-  dump::line(os, "_length: ", length);
-  os << label;
-  dump::line(os, ": ", value);
+  dump::Line(os).text(label).text("_length: ").number(length).end();
+  dump::Line(os).text(label).text(": ").text(value.c_str()).end();
 }
 
 }  // namespace sivane

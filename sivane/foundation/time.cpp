@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_line.h>
 #include <sivane/foundation/scan.h>
 #include <sivane/foundation/time.h>
 
@@ -9,6 +10,8 @@
 
 namespace sivane {
 
+using dump::Line;
+
 namespace {
 
 int bcd_byte(Reader& reader) {
@@ -16,13 +19,25 @@ int bcd_byte(Reader& reader) {
   return tens * 10 + reader.bits(4);
 }
 
-std::ostream& write(std::ostream& os, DateTime const& d) {
-  return os << d.day << '/' << d.month << '-' << d.year << ' ' << d.hour << ':' << d.minute << ':'
-            << d.second;
+Line& add(Line& line, DateTime const& d) {
+  line.number(d.day).text('/').number(d.month).text('-').number(d.year).text(' ');
+  return line.number(d.hour).text(':').number(d.minute).text(':').number(d.second);
 }
 
-std::ostream& write(std::ostream& os, Duration const& d) {
-  return os << d.hour << ':' << d.minute << ':' << d.second;
+Line& add(Line& line, Duration const& d) {
+  return line.number(d.hour).text(':').number(d.minute).text(':').number(d.second);
+}
+
+Line& add(Line& line, TimeOffset const& offset) {
+  return line.number(offset.hour).text(':').number(offset.minute);
+}
+
+/// In the base that the stream has.
+template <class Time>
+std::ostream& write(std::ostream& os, Time const& time) {
+  Line line(os);
+  add(line, time).write();
+  return os;
 }
 
 /// The date of a Modified Julian Date by the formula of Annex C; conversions to an integer cut towards zero.
@@ -52,7 +67,10 @@ DateTime::DateTime(Reader& reader) {
   second = bcd_byte(reader);
 }
 
-void DateTime::dump_state(std::ostream& os) const { write(os, *this) << std::endl; }
+void DateTime::dump_state(std::ostream& os) const {
+  Line line(os);
+  add(line, *this).end();
+}
 
 std::string DateTime::get_date_as_text() const {
   std::string text = std::to_string(day);
@@ -75,7 +93,10 @@ Duration::Duration(unsigned char const* data) {
 Duration::Duration(Reader& reader)
     : hour(bcd_byte(reader)), minute(bcd_byte(reader)), second(bcd_byte(reader)) {}
 
-void Duration::dump_state(std::ostream& os) const { write(os, *this) << std::endl; }
+void Duration::dump_state(std::ostream& os) const {
+  Line line(os);
+  add(line, *this).end();
+}
 
 std::string Duration::get_time_as_text() const {
   return std::to_string(hour) + ' ' + std::to_string(minute) + ' ' + std::to_string(second);
@@ -97,9 +118,7 @@ TimeOffset::TimeOffset(unsigned char const* data) {
 
 TimeOffset::TimeOffset(Reader& reader) : hour(bcd_byte(reader)), minute(bcd_byte(reader)) {}
 
-std::ostream& operator<<(std::ostream& os, TimeOffset const& offset) {
-  return os << std::dec << offset.hour << ':' << offset.minute;
-}
+std::ostream& operator<<(std::ostream& os, TimeOffset const& offset) { return write(os << std::dec, offset); }
 
 ApplicationIdentifier::ApplicationIdentifier(unsigned char const* data) {
   Reader reader = Reader::trusting(data);
@@ -123,6 +142,21 @@ std::string ApplicationIdentifier::application_identifier_as_text() const {
 bool ApplicationIdentifier::set_application_identifier_from_text(char const* text) {
   scan_numbers(text, 16, organisation_id, application_id);
   return true;
+}
+
+void dump::line(std::ostream& os, char const* label, DateTime const& value) {
+  Line line(os << std::dec);
+  add(line.text(label), value).end();
+}
+
+void dump::line(std::ostream& os, char const* label, Duration const& value) {
+  Line line(os << std::dec);
+  add(line.text(label), value).end();
+}
+
+void dump::line(std::ostream& os, char const* label, TimeOffset const& value) {
+  Line line(os << std::dec);
+  add(line.text(label), value).end();
 }
 
 }  // namespace sivane

@@ -32,8 +32,8 @@ void Eit::EventInfo::dump_state(std::ostream& os) const {
   dump::line(os, "running_status: ", running_status);
   dump::line(os, "free_CA_mode: ", free_CA_mode);
   dump::line(os, "descriptors_length: ", descriptors_length);
-  os << "start_time: " << start_time << std::endl;
-  os << "duration: " << duration << std::endl;
+  dump::line(os, "start_time: ", start_time);
+  dump::line(os, "duration: ", duration);
 }
 
 void Eit::_parse(unsigned char const* body) {

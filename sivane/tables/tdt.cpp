@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/dump.h>
 #include <sivane/tables/tdt.h>
 
 #include <ostream>
@@ -15,7 +16,7 @@ void Tdt::_reset() {}
 
 void Tdt::_dump_state(std::ostream& os) const {
   PsiBase::_dump_state(os);
-  os << "UTC_time: " << UTC_time << std::endl;
+  dump::line(os, "UTC_time: ", UTC_time);
 }
 
 bool Tdt::is_syntax_indicator_valid(int indicator) const { return indicator == 0; }

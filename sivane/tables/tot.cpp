@@ -20,7 +20,7 @@ void Tot::_reset() { clear_general_descriptors(); }
 
 void Tot::_dump_state(std::ostream& os) const {
   PsiBase::_dump_state(os);
-  os << "UTC_time: " << UTC_time << std::endl;
+  dump::line(os, "UTC_time: ", UTC_time);
   dump::line(os, "crc32: ", crc32);
 }
 

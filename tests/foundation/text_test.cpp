@@ -7,8 +7,10 @@
 #include <sivane/foundation/hex.h>
 #include <sivane/foundation/multilingual_name.h>
 #include <sivane/foundation/text.h>
+#include <sivane/foundation/time.h>
 
 #include <iomanip>
+#include <locale>
 #include <sstream>
 
 #include "expect_error.h"
@@ -152,6 +154,56 @@ TEST(DumpLine, KeepsTheStreamsBaseAndFlushes) {
   dump_block(os, hex("00").data(), 1);
   EXPECT_EQ(buffer.str().substr(0, 41), "int ff\nwide 123\nwide 000a\nstring ab\n00   ");
   EXPECT_EQ(buffer.flushes, 5);
+}
+
+struct Grouping : std::numpunct<char> {
+  std::string do_grouping() const override { return "\2"; }
+  char do_decimal_point() const override { return ','; }
+};
+
+/// Calls `check` with a stream of every state that changes how something is written.
+template <class Check>
+void in_every_state(Check check) {
+  constexpr std::ios::fmtflags all[] = {
+      std::ios::dec,       std::ios::oct,        std::ios::hex,      std::ios::showbase, std::ios::showpos,
+      std::ios::uppercase, std::ios::left,       std::ios::internal, std::ios::right,    std::ios::unitbuf,
+      std::ios::showpoint, std::ios::scientific, std::ios::fixed};
+  for (unsigned int set = 0; set < 1u << std::size(all); ++set) {
+    std::ostringstream os;
+    std::ios::fmtflags flags{};
+    for (std::size_t i = 0; i < std::size(all); ++i) flags |= (set >> i & 1) != 0 ? all[i] : flags;
+    os.flags(flags);
+    os.fill(set % 3 == 0 ? '0' : ' ');
+    os.width(set % 5 == 0 ? 7 : 0);
+    os.precision(static_cast<int>(set % 7) * 9 - 3);
+    if (set % 11 == 0) os.imbue(std::locale(std::locale::classic(), new Grouping));
+    check(os);
+  }
+}
+
+TEST(DumpLine, IsWhatInsertionsWriteInEveryStateOfTheStream) {
+  std::string const long_text(300, 'x');
+  std::vector<std::string> written;
+  in_every_state([&](std::ostringstream& os) {
+    dump::line(os, "int ", -12345);
+    dump::line(os, "wide ", 0x12ABC, 8);
+    dump::line(os, "unsigned ", 4294967295u);
+    dump::line(os, "byte ", static_cast<unsigned char>('b'));
+    dump::line(os, "double ", 1234.5678e7);
+    dump::line(os, "", long_text);
+    os << std::setw(6) << Duration(hex("11 12 13").data()) << std::hex << std::endl;
+    written.push_back(os.str());
+  });
+  std::size_t state = 0;
+  in_every_state([&](std::ostringstream& os) {
+    os << "int " << std::setw(0) << -12345 << std::endl;
+    os << "wide " << std::setw(8) << 0x12ABC << std::endl;
+    os << "unsigned " << 4294967295u << std::endl << "byte " << 'b' << std::endl;
+    os << "double " << 1234.5678e7 << std::endl << "" << long_text << std::endl;
+    os << std::setw(6) << std::dec << 11 << ':' << 12 << ':' << 13 << std::hex << std::endl;
+    ASSERT_EQ(os.str(), written[state]) << std::hex << state;
+    ++state;
+  });
 }
 
 }  // namespace
