@@ -7,23 +7,45 @@
 #include <sivane/dom/writer.h>
 
 #include <array>
-#include <fstream>
+#include <cstdio>
 
 namespace sivane::dom {
 
 namespace {
 
+// Files without a buffer: streams keep to themselves that there was no memory for theirs.
+
+struct Close {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, Close>;
+
+[[noreturn]] void fail() { throw error(system_reason().c_str()); }
+
+File opened(std::string const& path, char const* mode) {
+  errno = 0;
+  File file(std::fopen(path.c_str(), mode));
+  if (!file) fail();
+  std::setvbuf(file.get(), nullptr, _IONBF, 0);
+  return file;
+}
+
 /// Stops behind the first byte too many.
 std::string content_of(std::string const& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file) throw error(system_reason().c_str());
+  File const file = opened(path, "rb");
   std::string content;
   std::array<char, 1 << 16> piece;
-  while (content.size() <= max_size && (file.read(piece.data(), piece.size()) || file.gcount() > 0)) {
-    content.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+  while (content.size() <= max_size && !std::feof(file.get())) {
+    content.append(piece.data(), std::fread(piece.data(), 1, piece.size(), file.get()));
+    if (std::ferror(file.get())) fail();
   }
-  if (file.bad()) throw error(system_reason().c_str());
   return content;
+}
+
+void put_into(std::string const& path, std::string const& text) {
+  File file = opened(path, "wb");
+  bool const whole = std::fwrite(text.data(), 1, text.size(), file.get()) == text.size();
+  if (!whole || std::fclose(file.release()) != 0) fail();
 }
 
 void read_checked(std::string_view text, Tree& tree) {
@@ -55,12 +77,7 @@ Document Document::load_string(std::string_view text) {
 }
 
 void Document::save_file(std::string const& path) const {
-  explained("save " + path, [&] {
-    std::string const text = write(*tree_);
-    std::ofstream file(path, std::ios::binary);
-    file << text << std::flush;
-    if (!file) throw error(system_reason().c_str());
-  });
+  explained("save " + path, [&] { put_into(path, write(*tree_)); });
 }
 
 std::string Document::save_string() const {
@@ -70,7 +87,9 @@ std::string Document::save_string() const {
 CComPtr<IXMLDOMElement> Document::make_root(std::string const& name) {
   if (tree_->root()) throw error("the document has a root element already");
   check_name(name);
-  return element_node(tree_, append_element(tree_->document, name.c_str()));
+  auto const element = element_node(tree_, append_element(tree_->unplaced, name.c_str()));
+  dom_->appendChild(element.get(), nullptr);
+  return element;
 }
 
 CComPtr<IXMLDOMElement> Document::root_element() const {

@@ -253,6 +253,20 @@ long Element::setAttributeNode(IXMLDOMAttribute* attribute, IXMLDOMAttribute** o
   return old == nullptr ? S_OK : give(old, std::move(replaced));
 }
 
+/// A copy of an element without children. Nothing is left of it where memory runs out.
+pugi::xml_node append_copy(pugi::xml_node parent, pugi::xml_node element) {
+  pugi::xml_node const copy = append_element(parent, element.name());
+  try {
+    for (pugi::xml_attribute const attribute : element.attributes()) {
+      append_attribute(copy, attribute.name(), attribute.value());
+    }
+  } catch (...) {
+    parent.remove_child(copy);
+    throw;
+  }
+  return copy;
+}
+
 /// False if `parent` stands within this element. pugixml climbs up from `parent` to know that, however deep
 /// it is; an element without children needs no such test, and while it is unplaced nobody else refers to it,
 /// so that it can as well be made anew.
@@ -261,11 +275,7 @@ bool Element::move_to(pugi::xml_node parent) {
   if (before.parent() != tree()->unplaced || before.first_child() || before == parent) {
     return static_cast<bool>(parent.append_move(before));
   }
-  pugi::xml_node const after = append_element(parent, before.name());
-  for (pugi::xml_attribute const attribute : before.attributes()) {
-    append_attribute(after, attribute.name(), attribute.value());
-  }
-  set_node(after);
+  set_node(append_copy(parent, before));
   tree()->unplaced.remove_child(before);
   return true;
 }

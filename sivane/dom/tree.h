@@ -22,12 +22,21 @@ inline void check_memory(bool done) {
   if (!done) throw std::bad_alloc();
 }
 
+// pugixml's own forms that take a name say nothing of one for which there was no memory. What lacks its name
+// would make a wrong document, and goes again.
+
 inline pugi::xml_node append_element(pugi::xml_node parent, char const* name) {
-  return not_null(parent.append_child(name));
+  pugi::xml_node added = not_null(parent.append_child(pugi::node_element));
+  if (added.set_name(name)) return added;
+  parent.remove_child(added);
+  throw std::bad_alloc();
 }
 
 inline void append_attribute(pugi::xml_node element, char const* name, char const* value) {
-  check_memory(not_null(element.append_attribute(name)).set_value(value));
+  pugi::xml_attribute added = not_null(element.append_attribute(""));
+  if (added.set_name(name) && added.set_value(value)) return;
+  element.remove_attribute(added);
+  throw std::bad_alloc();
 }
 
 /// All references of a document share its tree, which is gone with the last of them. Nodes with children are
