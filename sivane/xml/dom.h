@@ -30,9 +30,16 @@
 
 namespace sivane {
 
+// The headers of Windows have macros of these names and values.
+#ifndef S_OK
 inline constexpr long S_OK = 0;
-inline constexpr long S_FALSE = 1;             ///< a success without an object
+#endif
+#ifndef S_FALSE
+inline constexpr long S_FALSE = 1;  ///< a success without an object
+#endif
+#ifndef E_FAIL
 inline constexpr long E_FAIL = -0x7FFF'BFFBL;  ///< 0x80004005 as a signed 32-bit number
+#endif
 
 /// What a tagVARIANT holds.
 enum VARENUM : unsigned short { VT_EMPTY = 0, VT_I4 = 3, VT_R8 = 5, VT_BSTR = 8 };

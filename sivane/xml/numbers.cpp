@@ -6,7 +6,18 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <new>
+#include <string>
 #include <system_error>
+#include <version>
+
+#ifndef __cpp_lib_to_chars
+#include <clocale>
+#include <cstdlib>
+#if __has_include(<xlocale.h>)
+#include <xlocale.h>
+#endif
+#endif
 
 namespace sivane {
 
@@ -30,6 +41,19 @@ bool holds(std::string_view& text, Number& value) {
   return result.ec != std::errc::result_out_of_range;
 }
 
+}  // namespace
+
+std::int64_t read_integer(std::string_view text) {
+  using Limits = std::numeric_limits<std::int64_t>;
+  std::int64_t value = 0;
+  if (holds(text, value)) return value;
+  return text.starts_with('-') ? Limits::min() : Limits::max();
+}
+
+#ifdef __cpp_lib_to_chars
+
+namespace {
+
 /// Whether a number that no double holds is too large, rather than too small: by the power of ten of its
 /// first digit that counts.
 bool is_too_large(std::string_view number) {
@@ -42,18 +66,25 @@ bool is_too_large(std::string_view number) {
 
 }  // namespace
 
-std::int64_t read_integer(std::string_view text) {
-  using Limits = std::numeric_limits<std::int64_t>;
-  std::int64_t value = 0;
-  if (holds(text, value)) return value;
-  return text.starts_with('-') ? Limits::min() : Limits::max();
-}
-
 double read_double(std::string_view text) {
   double value = 0;
   if (holds(text, value)) return value;
   double const nearest = is_too_large(text) ? std::numeric_limits<double>::infinity() : 0;
   return std::copysign(nearest, text.starts_with('-') ? -1.0 : 1.0);
 }
+
+#else  // such as libc++, which reads no doubles before version 20
+
+double read_double(std::string_view text) {
+  static locale_t const classic = newlocale(LC_ALL_MASK, "C", nullptr);
+  if (classic == nullptr) throw std::bad_alloc();
+  text = without_lead(text);
+  std::size_t const sign = text.starts_with('-') ? 1 : 0;
+  if (text.find_first_of("0123456789.iInN", sign) != sign) return 0;
+  std::string const number(text.substr(0, text.find_first_of("xX")));  // no hexadecimal digits
+  return strtod_l(number.c_str(), nullptr, classic);
+}
+
+#endif
 
 }  // namespace sivane

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The headers behind macros of the names and values that those of Windows define.
+#include <gtest/gtest.h>
+
+#define S_OK (static_cast<long>(0L))
+#define S_FALSE (static_cast<long>(1L))
+#define E_FAIL (static_cast<long>(-2147467259L))
+#define interface struct
+#define small char
+#define near
+#define far
+#define min(a, b) ((a) < (b) ? (a) : (b))
+#define max(a, b) ((a) > (b) ? (a) : (b))
+#include <sivane/sivane.h>
+
+static_assert(S_OK == 0 && S_FALSE == 1 && E_FAIL == -0x7FFF'BFFBL);
+
+TEST(Headers, StandBesideTheMacrosOfWindows) { EXPECT_EQ(sivane::tagVARIANT(7).text(), u"7"); }
