@@ -86,8 +86,10 @@ void write_demux(fs::path const& folder) {
   Bytes const removals{0x00, 0x02, 0x01, 0x00, 0x06, 0x01};        // removes, adds, resets and adds again
   Bytes const failures{0x00, 0x07, 0x00, 0x07, 0x07, 0x04, 0x05};  // throws, stops, dumps
   std::string const drivers[] = {"push", "istream", "polled"};
-  for (unsigned char driver = 0; driver < 3; ++driver) {
-    std::string const name = drivers[driver];
+  Bytes const memory{0x00, 0x06 | 0x08, 0x26, 0x46, 0x66};  // registers with memory for 0 to 3 requests
+  for (unsigned char driver = 0; driver < 6; ++driver) {    // the second three with every section
+    std::string const name = drivers[driver % 3] + (driver < 3 ? "" : "-every");
+    write(folder / (name + "-memory"), demux_input(driver, memory, broadcast()));
     write(folder / (name + "-broadcast"), demux_input(driver, idle, broadcast()));
     write(folder / (name + "-filters"), demux_input(driver, filters, broadcast()));
     write(folder / (name + "-removals"), demux_input(driver, removals, broadcast()));
@@ -96,6 +98,20 @@ void write_demux(fs::path const& folder) {
   }
   write(folder / "push-packetwise", demux_input(0, filters, broadcast(), 0x10));
   write(folder / "push-odd", demux_input(0, idle, broadcast(), 0x30));
+}
+
+void write_packet_finder(fs::path const& folder) {
+  for (unsigned char stride = 0; stride < 3; ++stride) {
+    std::string const name = std::to_string(stride);
+    // The step of the pieces; then 8 packets, and a damage in front of 8 more.
+    unsigned char const first = static_cast<unsigned char>(stride | 0x2C);
+    write(folder / ("plain-" + name), Bytes{first, 0xE3, 0xE3});
+    write(folder / ("junk-" + name), Bytes{first, 0xF8, 0xE3, 0x40, 0xE3});
+    write(folder / ("lost-" + name), Bytes{first, 0xE3, 0x09, 0xE3});
+    write(folder / ("wrong-sync-" + name), Bytes{first, 0xE3, 0x0A, 0xE3, 0x0A, 0x03, 0x0A, 0xE3});
+    write(folder / ("short-" + name), Bytes{first, 0x23});
+    write(folder / ("sync-alone-" + name), Bytes{first, 0xE7, 0x09, 0xE7});
+  }
 }
 
 void write_sections(fs::path const& folder) {
@@ -191,6 +207,7 @@ int main(int argc, char** argv) {
   if (argc != 2) return 2;
   fs::path const corpora = argv[1];
   write_demux(corpora / "demux");
+  write_packet_finder(corpora / "packet_finder");
   write_sections(corpora / "sections");
   write_rich_sections(corpora / "sections");
   write_descriptors(corpora / "descriptors");
