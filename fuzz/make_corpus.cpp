@@ -133,8 +133,8 @@ void write_sections(fs::path const& folder) {
 std::string one_of_each(std::initializer_list<char const*> names) {
   std::map<int, std::string> by_tag;
   for (char const* const name : names) {
-    auto const cases = sivane::testing::read_cases(std::string("descriptors/cases/") + name + ".txt");
-    for (auto const& one : cases) by_tag.emplace(sivane::testing::assemble(one.bytes)[0], one.bytes);
+    auto const cases = sivane::testing::read_steps(std::string("descriptors/cases/") + name + ".txt");
+    for (auto const& one : cases) by_tag.emplace(sivane::testing::assemble(one.argument)[0], one.argument);
   }
   std::string all;
   for (auto const& [tag, bytes] : by_tag) all += bytes + ' ';

@@ -1,106 +1,130 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The descriptors of the case files, each made from a bare pointer and by a set in the middle of a section.
-#include <set>
+// The descriptors of the case files: filed alone at the end of a section, with other bytes after them, and at
+// a bare pointer.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <sstream>
 
 #include "case_file.h"
-#include "descriptor_check.h"
-#include "row_list.h"
+#include "expect_error.h"
+#include "memory_dom.h"
+#include "rows.h"
 #include "section_text.h"
 
 namespace sivane::testing {
 namespace {
 
-constexpr char const* families[] = {"mpeg_systems", "network", "service", "event",
-                                    "stream",       "cell",    "general"};
-constexpr char const* following = "A5 5A A5 5A A5 5A A5 5A A5 5A A5 5A";
+constexpr char const* too_little = "no_errorcode too little data\n";
 
-std::vector<Case> cases_of(std::string const& name) {
-  std::vector<Case> cases = read_cases("descriptors/cases/" + name + ".txt");
-  EXPECT_FALSE(cases.empty()) << name;
-  return cases;
+/// What is saved of a descriptor after its head.
+template <class Descriptor>
+std::string saved(Descriptor const& descriptor, char16_t const* name) {
+  MemoryDom dom;
+  auto const element = dom.element(name);
+  EXPECT_TRUE(descriptor.SaveSection(dom.document().get(), element.get()));
+  EXPECT_EQ(take_attribute(element.get(), 0), "descriptor_id");
+  EXPECT_EQ(take_attribute(element.get(), 0), "descriptor_length");
+  return written(element.get());
 }
 
-template <class Set>
-std::string made_in_section(Case const& one) {
-  HeapBlock const section(assemble(one.bytes) + assemble(one.behind) + hex(following));
-  return row_of<Set>(section.data()[0]).first(parsed<Set>(section), section.data());
+template <class Descriptor>
+void add(KeyedLines& outcome, Descriptor descriptor, char16_t const* element) {
+  std::ostringstream dump;
+  descriptor.dump_state(dump);
+  outcome["dump"] += printable_lines(dump.str());
+  outcome["xml"] += saved(descriptor, element);
+  descriptor._reset();
+  std::string const left = saved(descriptor, element);
+  if (left != outcome["xml"]) outcome["left"] += left;
 }
 
+/// What comes of filing a descriptor: the vectors that it is in, and what it is there.
 template <class Set>
-void read_and_dump(std::string const& name) {
-  for (Case const& one : cases_of(name)) {
-    const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    HeapBlock const alone(assemble(one.bytes));
-    EXPECT_EQ(made_in_section<Set>(one), one.title + '\n' + one.text);
-    EXPECT_EQ(row_of<Set>(alone.data()[0]).bare(alone.data()), one.title + '\n' + one.text);
+KeyedLines filed(DescriptorBytes bytes) {
+  KeyedLines outcome = {{"throws", ""}, {"in", ""}, {"dump", ""}, {"xml", ""}, {"left", ""}};
+  Set set;
+  std::string const failure = thrown([&] { file(set, bytes); });
+  if (!failure.empty()) outcome["throws"] = failure + '\n';
+  each_row<Set>([&](auto const& row) {
+    for (auto const& descriptor : (set.*row.getter)()) {
+      outcome["in"] += std::string(row.name) + '\n';
+      EXPECT_EQ(descriptor.tag, bytes.tag());
+      EXPECT_EQ(descriptor.length, bytes.length());
+      add(outcome, descriptor, row.element);
+    }
+  });
+  return outcome;
+}
+
+/// One whose fixed fields and inner lengths run over its end needs all that they take in the section.
+template <class Set>
+void expect_needed(Bytes const& descriptor, Bytes const& after) {
+  EXPECT_EQ(filed<Set>(DescriptorBytes(HeapBlock(descriptor).data())).at("throws"), too_little);
+  for (auto end = after.begin(); end != after.end(); ++end) {
+    HeapBlock const cut(descriptor + Bytes(after.begin(), end));
+    EXPECT_EQ(filed<Set>(descriptor_in(cut)).at("throws"), too_little);
   }
 }
 
-class Cases : public ::testing::TestWithParam<char const*> {};
-INSTANTIATE_TEST_SUITE_P(Files, Cases, ::testing::ValuesIn(families),
-                         [](auto const& family) { return std::string(family.param); });
-
-TEST_P(Cases, AreReadAndDumped) { read_and_dump<DescriptorSet>(GetParam()); }
-TEST(AitCases, AreReadAndDumped) { read_and_dump<AitDescriptorSet>("ait"); }
-
 template <class Set>
-void expect_every_row(std::vector<Case> const& cases) {
-  std::set<std::string> getters;
-  for (Case const& one : cases) getters.insert(row_of<Set>(assemble(one.bytes).at(0)).getter);
-  for (RowOf<Set> const& row : row_list<Set>()) EXPECT_EQ(getters.count(row.getter), 1u) << row.getter;
-}
-
-TEST(AllCases, HaveOneOfEveryRow) {
-  std::vector<Case> all;
-  for (char const* const family : families) {
-    for (Case const& one : cases_of(family)) all.push_back(one);
+void check(Step const& step) {
+  Bytes const descriptor = assemble(step.argument);
+  HeapBlock const alone(descriptor);
+  Bytes const after = step.lines.contains("after") ? assemble(step.lines.at("after")) : Bytes();
+  // What a descriptor that is refused has run into decides how it is refused.
+  unsigned char const noise = step.lines.contains("throws") ? 0 : 0xA5;
+  for (Bytes const& others : {Bytes(), Bytes(40), Bytes(40, noise)}) {
+    HeapBlock const section(descriptor + after + others);
+    expect_lines(step, filed<Set>(descriptor_in(section)));
   }
-  expect_every_row<DescriptorSet>(all);
-  expect_every_row<AitDescriptorSet>(cases_of("ait"));
+  if (after.empty()) {
+    expect_lines(step, filed<Set>(DescriptorBytes(alone.data())));
+  } else {
+    expect_needed<Set>(descriptor, after);
+  }
 }
 
-template <class Set>
-void run_over(std::string const& name) {
-  for (Case const& one : cases_of(name)) {
-    const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    HeapBlock const alone(assemble(one.bytes));
-    std::string const expected = one.title + '\n' + one.text;
-    EXPECT_EQ(made_in_section<Set>(one).substr(0, expected.size()), expected);
-    EXPECT_EQ(thrown([&] { row_of<Set>(alone.data()[0]).bare(alone.data()); }),
-              "no_errorcode too little data");
-    Bytes const behind = assemble(one.behind);
-    for (auto end = behind.begin(); end != behind.end(); ++end) {
-      HeapBlock const section(assemble(one.bytes) + Bytes(behind.begin(), end));
-      EXPECT_EQ(thrown([&] { parsed<Set>(section); }), "no_errorcode too little data");
+std::vector<std::string> case_files() {
+  std::vector<std::string> names;
+  for (auto const& entry : std::filesystem::directory_iterator(SIVANE_TESTS "/descriptors/cases")) {
+    names.push_back(entry.path().stem().string());
+  }
+  return names;
+}
+
+bool is_of_ait(std::string const& name) { return name.starts_with("ait"); }
+
+std::vector<Step> steps_of(std::string const& name) {
+  return read_steps("descriptors/cases/" + name + ".txt");
+}
+
+class Descriptors : public ::testing::TestWithParam<std::string> {};
+INSTANTIATE_TEST_SUITE_P(Cases, Descriptors, ::testing::ValuesIn(case_files()),
+                         [](auto const& file) { return file.param; });
+
+TEST_P(Descriptors, AreFiledDumpedAndSaved) {
+  for (Step const& step : steps_of(GetParam())) {
+    is_of_ait(GetParam()) ? check<AitDescriptorSet>(step) : check<DescriptorSet>(step);
+  }
+}
+
+TEST(DescriptorCases, HaveOneOfEveryRow) {
+  std::string dvb, ait;
+  for (std::string const& name : case_files()) {
+    for (Step const& step : steps_of(name)) {
+      if (step.lines.contains("in")) (is_of_ait(name) ? ait : dvb) += '\n' + step.lines.at("in");
     }
   }
-}
-
-// Fixed fields and inner lengths may run over the descriptor: what they take is taken as it stands where all
-// of it follows in the section, and not where any of it is missing. A rest ends with the descriptor.
-TEST(AllCases, MayRunOverTheDescriptorButNotOverTheSection) {
-  run_over<DescriptorSet>("overruns");
-  run_over<AitDescriptorSet>("ait_overruns");
-}
-
-template <class Set>
-void fail(std::string const& name) {
-  for (Case const& one : cases_of(name)) {
-    const ::testing::ScopedTrace trace(one.file.c_str(), one.line, one.title);
-    HeapBlock const alone(assemble(one.bytes));
-    HeapBlock const within(assemble(one.bytes) + Bytes(40));
-    Set set;
-    EXPECT_EQ(thrown([&] { file(set, alone.data()); }), one.title);
-    EXPECT_EQ(thrown([&] { parse(set, alone); }), one.title);
-    EXPECT_EQ(thrown([&] { parse(set, within); }), one.title);
-  }
-}
-
-TEST(AllCases, NamedFailuresWinWhereverTheDescriptorStands) {
-  fail<DescriptorSet>("failures");
-  fail<AitDescriptorSet>("ait_failures");
+  auto const look_for = [](std::string const& all) {
+    return [&all](auto const& row) {
+      EXPECT_NE(all.find('\n' + std::string(row.name) + '\n'), all.npos) << row.name << " has no case";
+    };
+  };
+  each_row<DescriptorSet>(look_for(dvb));
+  each_row<AitDescriptorSet>(look_for(ait));
 }
 
 }  // namespace

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+//
+// The texts of coded values, as value_texts.txt lists them.
 #include <gtest/gtest.h>
 #include <sivane/descriptors/descriptor_set.h>
 
-#include <functional>
 #include <map>
-#include <sstream>
+#include <set>
 #include <string>
 
-#include "case_file.h"
+#include "expect_error.h"
 
 namespace sivane::testing {
 namespace {
@@ -34,84 +35,40 @@ std::string genre(int nibbles) {
 
 using Satellite = DescriptorSatelliteDeliverySystem;
 using Content = DescriptorContent::Content;
+using Signalled = DescriptorApplicationSignalling::ApplicationInfo;
+using Teletext = DescriptorTeletext::TeletextItem;
 
-/// What gives the texts of a block, and the last value asked for.
-struct Source {
-  char const* title;
-  TextOf text_of;
-  int last = 300;
-};
-
-Source const sources[] = {
+std::map<std::string, TextOf> const sources = {
     {"hierarchy_type",
      by(&DescriptorHierarchy::hierarchy_type, &DescriptorHierarchy::get_hierchy_type_string)},
     {"alignment_type", by(&DescriptorDataStreamAlignment::alignment_type,
                           &DescriptorDataStreamAlignment::get_alignment_type_string)},
-    {"sys_id", by(&DescriptorCa::sys_id, &DescriptorCa::get_ca_provider1), 0x10200},
+    {"sys_id", by(&DescriptorCa::sys_id, &DescriptorCa::get_ca_provider1)},
     {"polarization", by(&Satellite::polarization, &Satellite::get_polarization_text)},
     {"modulation", by(&Satellite::modulation, &Satellite::get_modulation_text)},
     {"FEC_inner", by(&Satellite::FEC_inner, &Satellite::get_FEC_inner_text)},
-    {"FEC_inner", [](int value) { return std::string(Satellite::get_FEC_inner_text(value)); }},
+    {"FEC_inner by value", [](int value) { return std::string(Satellite::get_FEC_inner_text(value)); }},
     {"coding_type",
      by(&DescriptorFrequencyList::coding_type, &DescriptorFrequencyList::get_coding_type_text)},
     {"service_type", [](int value) { return std::string(DescriptorService::get_service_type_text(value)); }},
-    {"teletext_type", by(&DescriptorTeletext::TeletextItem::teletext_type,
-                         &DescriptorTeletext::TeletextItem::get_teletext_type_text)},
-    {"application_type", by(&DescriptorApplicationSignalling::ApplicationInfo::application_type,
-                            &DescriptorApplicationSignalling::ApplicationInfo::get_application_type_text)},
+    {"teletext_type", by(&Teletext::teletext_type, &Teletext::get_teletext_type_text)},
+    {"application_type", by(&Signalled::application_type, &Signalled::get_application_type_text)},
     {"programme_identification_label", by(&DescriptorPDC::programme_identification_label,
                                           &DescriptorPDC::get_programme_identification_label_text)},
     {"tag", [](int value) { return std::string(DescriptorGeneral(value, nullptr, 0).get_tag_text()); }},
     {"content_nibble_level1", by(&Content::content_nibble_level1, &Content::get_content_nibble_level1_text)},
-    {"content_nibbles", genre, 0xFF},
-};
-
-struct Texts {
-  std::map<int, std::string> by_value;
-  std::string other;
-};
-
-void read_line(std::string const& line, Texts& texts) {
-  std::size_t const blank = line.find(' ');
-  std::string text = line.substr(blank + 1);
-  if (line.starts_with("else ")) {
-    texts.other = text;
-    return;
-  }
-  std::size_t used = 0;
-  int value = std::stoi(line, &used, 16);
-  if (line[used] == '-') {
-    int const last = std::stoi(line.substr(used + 1), nullptr, 16);
-    while (value <= last) texts.by_value[value++] = text;
-    return;
-  }
-  for (std::size_t end; (end = text.find("; ")) != std::string::npos; text.erase(0, end + 2)) {
-    texts.by_value[value++] = text.substr(0, end);
-  }
-  texts.by_value[value] = text;
-}
-
-std::map<std::string, Texts> read_texts() {
-  std::map<std::string, Texts> all;
-  for (Block const& block : read_blocks("descriptors/cases/value_texts.txt")) {
-    for (Line const& line : block.lines) read_line(line.text, all[block.title]);
-  }
-  return all;
-}
+    {"content_nibbles", genre}};
 
 TEST(ValueText, OfEveryValue) {
-  std::map<std::string, Texts> const all = read_texts();
-  std::map<std::string, Texts> left = all;
-  for (Source const& source : sources) {
-    SCOPED_TRACE(source.title);
-    Texts const& texts = all.at(source.title);
-    left.erase(source.title);
-    for (int value = -2; value <= source.last; ++value) {
-      auto const found = texts.by_value.find(value);
-      EXPECT_EQ(source.text_of(value), found != texts.by_value.end() ? found->second : texts.other) << value;
-    }
+  std::set<std::string> listed;
+  for (Step const& step : read_steps("descriptors/value_texts.txt")) {
+    listed.insert(step.title);
+    std::size_t end = 0;
+    int const first = std::stoi(step.argument, &end, 16);
+    int const last = std::stoi(step.argument.substr(end), nullptr, 16);
+    expect_lines(step, {{"text", text_runs(first, last, sources.at(step.title))}});
   }
-  EXPECT_TRUE(left.empty()) << "nothing gives these: " << left.begin()->first;
+  EXPECT_EQ(listed.size(), sources.size());
 }
 
 }  // namespace

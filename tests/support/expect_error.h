@@ -9,6 +9,8 @@
 #include <string>
 #include <utility>
 
+#include "case_file.h"
+
 namespace sivane::testing {
 
 /// The `error` that `action` throws, if any; whatever else it throws passes through.
@@ -39,6 +41,12 @@ std::string thrown(Action&& action) {
   }
   std::string const message = failure->what();
   return message.empty() ? text : text + ' ' + message;
+}
+
+/// That a step has come out as its lines say; what is printed otherwise can be pasted into the case file.
+inline void expect_lines(Step const& step, KeyedLines const& outcome) {
+  std::string const text = difference(step, outcome);
+  EXPECT_TRUE(text.empty()) << text;
 }
 
 /// For EXPECT_TRUE: whether `action` throws an `error` of this code and text.

@@ -1,19 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The sections of the case files. "hex" parses into a new table and "more" into the one at hand, which
-// "reset" empties; behind each stands what comes of it: "throws", "dump" (without the header's lines) and
-// "base", in which the stream is then. "holds" lists the tags that the table's sets hold in the order of
-// their rows, those of each entry in braces, and a table's own list of CA descriptors in parentheses.
+// The sections of the case files, one file for each table class, and what is left of a long one that is
+// damaged.
 #include <gtest/gtest.h>
 #include <sivane/sivane.h>
 
-#include <map>
 #include <sstream>
 
-#include "case_file.h"
 #include "expect_error.h"
-#include "heap_block.h"
+#include "memory_dom.h"
+#include "rows.h"
 #include "section_text.h"
 
 namespace sivane::testing {
@@ -34,21 +31,16 @@ void add_tags(std::string& text, std::vector<Descriptor> const& descriptors) {
   for (Descriptor const& descriptor : descriptors) add(text, two_digits(descriptor.tag));
 }
 
-std::string tags(DescriptorSet const& set) {
+/// What the owner's set holds, if it has one.
+template <class Owner>
+std::string tags(Owner const& owner) {
+  using Set = std::conditional_t<std::is_base_of_v<AitDescriptorSet, Owner>, AitDescriptorSet, DescriptorSet>;
   std::string text;
-#define SIVANE_ROW(tag, Class, getter, element) add_tags(text, set.getter());
-#include <sivane/descriptors/descriptor_rows.inc>
+  if constexpr (std::is_base_of_v<Set, Owner>) {
+    each_row<Set>([&](auto const& row) { add_tags(text, (owner.*row.getter)()); });
+  }
   return text;
 }
-
-std::string tags(AitDescriptorSet const& set) {
-  std::string text;
-#define SIVANE_ROW(tag, Class, getter, element) add_tags(text, set.getter());
-#include <sivane/descriptors/ait_descriptor_rows.inc>
-  return text;
-}
-
-std::string tags(Rst::Status const&) { return ""; }
 
 template <class Entry>
 void add_entries(std::string& text, std::vector<Entry> const& entries) {
@@ -62,7 +54,7 @@ std::string held(Table const& table) {
     add_tags(text, table.ca_descriptors);
     text = '(' + text + ')';
   }
-  if constexpr (requires { tags(table); }) add(text, tags(table));
+  add(text, tags(table));
   if constexpr (requires { table.stream_infos; }) add_entries(text, table.stream_infos);
   if constexpr (requires { table.service_infos; }) add_entries(text, table.service_infos);
   if constexpr (requires { table.event_infos; }) add_entries(text, table.event_infos);
@@ -71,7 +63,7 @@ std::string held(Table const& table) {
   if constexpr (requires { table.data; }) {
     for (unsigned char const byte : table.data) add(text, two_digits(byte));
   }
-  return text;
+  return text.empty() ? text : text + '\n';
 }
 
 template <class Table>
@@ -86,31 +78,41 @@ std::string dumped(Table const& table, std::ostringstream& os) {
   return text;
 }
 
-struct Step {
-  std::map<std::string, std::string> lines;  // by keyword, each with its end
-  int number = 0;
-};
-
-bool is_action(std::string const& keyword) {
-  return keyword == "hex" || keyword == "more" || keyword == "reset";
+template <class Table>
+std::string saved(Table const& table) {
+  MemoryDom dom;
+  auto const element = dom.element(u"it");
+  bool const answer = table.SaveSection(dom.document().get(), element.get());
+  EXPECT_NE(answer, (std::is_same_v<Table, DsmCC>));  // of which a document has the header alone
+  return written(element.get());
 }
 
-std::vector<Step> steps_of(Block const& block) {
-  std::vector<Step> steps;
-  std::string last;
-  for (auto const& [text, number] : block.lines) {
-    std::string const keyword = text.substr(0, text.find(' '));
-    if (is_action(keyword) && keyword != last) steps.push_back({{}, number});
-    last = keyword;
-    std::string& lines = steps.at(steps.size() - 1).lines[keyword];
-    if (text.size() > 7) lines += text.substr(7) + '\n';
+/// The text of a table id, told from that of one that the class refuses.
+template <class Table>
+std::string text_of_id(int table_id) {
+  Table table;
+  table.table_id = table_id;
+  std::string const text = table.get_table_id_text();
+  if constexpr (std::is_same_v<Table, Eit>) {
+    EXPECT_EQ(Eit::get_table_id_text(table_id), text);
   }
-  return steps;
+  return (table.is_valid_tablesid() ? "" : "refused: ") + text;
 }
 
-Bytes section_of(Step const& step) {
-  auto const at = step.lines.contains("hex") ? step.lines.find("hex") : step.lines.find("more");
-  return at == step.lines.end() ? Bytes() : assemble(at->second);
+/// The section_syntax_indicators that the class takes.
+template <class Table>
+std::string indicators() {
+  std::string taken;
+  for (int const indicator : {0, 1}) {
+    bool is_taken = false;
+    if constexpr (is_long<Table>) {
+      is_taken = Table().is_valid_syntax_indicator(indicator);
+    } else {
+      is_taken = Table().is_syntax_indicator_valid(indicator);
+    }
+    if (is_taken) add(taken, std::to_string(indicator));
+  }
+  return taken + '\n';
 }
 
 template <class Table>
@@ -123,52 +125,52 @@ void reset(Table& table) {
   }
 }
 
+/// What is thrown; where the case marks a byte, the failure must point there.
 template <class Table>
-void act(Table& table, Step const& step) {
-  if (step.lines.contains("reset")) return reset(table);
-  if (step.lines.contains("hex")) table = Table();
-  HeapBlock const section(section_of(step));
-  bool const was_valid = table.valid;
-  auto const failure = step.lines.find("throws");
-  bool const fails = failure != step.lines.end();
-  EXPECT_EQ(thrown([&] { table.Parse(section.data()); }) + '\n', fails ? failure->second : "\n");
-  EXPECT_EQ(table.valid, !fails || was_valid);
-}
-
-template <class Table>
-void expect_outcome(Table const& table, Step const& step) {
-  std::ostringstream os;
-  std::string const dump = dumped(table, os);
-  std::string const tags = held(table);
-  bool const is_decimal = (os.flags() & std::ios::dec) != 0;
-  std::map<std::string, std::string> const outcome = {
-      {"dump", dump}, {"holds", tags.empty() ? "" : tags + '\n'}, {"base", is_decimal ? "dec\n" : "hex\n"}};
-  for (auto const& [keyword, lines] : step.lines) {
-    if (is_action(keyword) || keyword == "throws") continue;
-    EXPECT_EQ(outcome.at(keyword), lines) << keyword;
+std::string act(Table& table, Step const& step) {
+  if (step.action == "reset") {
+    reset(table);
+    return "";
   }
+  if (step.action == "hex") table = Table();
+  int mark = -1;
+  HeapBlock const section(assemble(step.argument, &mark));
+  bool const was_valid = table.valid;
+  std::optional<error> failure;
+  std::string const text = thrown([&] {
+    failure = caught_error([&] { table.Parse(section.data(), static_cast<std::size_t>(section.size())); });
+    if (failure) throw *failure;
+  });
+  EXPECT_EQ(table.valid, text.empty() || was_valid);
+  EXPECT_TRUE(mark < 0 || (failure && failure->offset == mark))
+      << step.file << ':' << step.line << ": at " << (failure ? failure->offset : -1);
+  return text.empty() ? text : text + '\n';
 }
 
 template <class Table>
 void run_steps(std::string const& file) {
-  for (Block const& block : read_blocks(file)) {
-    Table table;
-    for (Step const& step : steps_of(block)) {
-      const ::testing::ScopedTrace trace(file.c_str(), step.number, block.title);
-      act(table, step);
-      expect_outcome(table, step);
+  Table table;
+  for (Step const& step : read_steps(file)) {
+    if (step.action == "over") {
+      expect_lines(step,
+                   {{"text", text_runs(0x00, 0x100, text_of_id<Table>)}, {"syntax", indicators<Table>()}});
+      continue;
     }
+    std::ostringstream os;
+    KeyedLines outcome = {{"throws", act(table, step)}, {"holds", held(table)}, {"xml", saved(table)}};
+    outcome["dump"] = printable_lines(dumped(table, os));
+    outcome["base"] = (os.flags() & std::ios::dec) != 0 ? "dec\n" : "hex\n";
+    expect_lines(step, outcome);
   }
 }
 
 /// The longest section of a file that parses.
 Bytes rich_section(std::string const& file) {
   Bytes longest;
-  for (Block const& block : read_blocks(file)) {
-    for (Step const& step : steps_of(block)) {
-      Bytes const section = section_of(step);
-      if (!step.lines.contains("throws") && section.size() > longest.size()) longest = section;
-    }
+  for (Step const& step : read_steps(file)) {
+    if (step.lines.contains("throws") || (step.action != "hex" && step.action != "more")) continue;
+    Bytes const section = assemble(step.argument);
+    if (section.size() > longest.size()) longest = section;
   }
   return longest;
 }
@@ -224,6 +226,7 @@ struct TableClass {
   char const* name;
   void (*run_steps)(std::string const& file);
   void (*damage)(std::string const& file);
+  friend void PrintTo(TableClass const& table, std::ostream* os) { *os << table.name; }
 };
 
 constexpr TableClass tables[] = {
@@ -240,7 +243,7 @@ INSTANTIATE_TEST_SUITE_P(Files, Tables, ::testing::ValuesIn(tables),
 
 TEST_P(Tables, ParseAndDumpAndReset) { GetParam().run_steps(file()); }
 
-// Under the address sanitizer no byte behind the section is looked at, and all that is thrown is `error`.
+// Under the address sanitizer no byte after the section is looked at, and all that is thrown is `error`.
 TEST_P(Tables, SurviveEveryCutAndEveryWrongByte) { GetParam().damage(file()); }
 
 }  // namespace

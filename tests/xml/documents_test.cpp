@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The documents of every table and descriptor in the case files: what a document must hold, what a refusing
+// one leads to, and the way through a string and a file. Which names and values they have stands in the case
+// files.
+#include <sivane/dom/document.h>
+#include <sivane/sivane.h>
+
+#include <filesystem>
+
+#include "document_check.h"
+#include "rows.h"
+#include "section_text.h"
+
+namespace sivane::testing {
+namespace {
+
+/// Of what a few classes dump, documents do not carry all.
+template <class Object>
+constexpr bool is_carried_whole =
+    !std::is_same_v<Object, DescriptorCountryAvailability> &&
+    !std::is_same_v<Object, DescriptorExtendedEvent> && !std::is_same_v<Object, DescriptorComponent> &&
+    !std::is_same_v<Object, DescriptorMultilingualComponent>;
+
+template <class Object>
+std::string document_of(Object const& object, std::string const& file = "") {
+  dom::Document document;
+  EXPECT_TRUE(object.SaveSection(document.dom(), document.make_root("it").get()));
+  if (!file.empty()) document.save_file(file);
+  return document.save_string();
+}
+
+template <class Object>
+Object loaded(dom::Document const& document) {
+  Object object;
+  object.Parse(static_cast<void*>(document.root_node().get()));
+  return object;
+}
+
+template <class Object>
+void expect_survival(Object const& object) {
+  std::string const test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+  std::string const file = ::testing::TempDir() + "sivane_" + test + ".xml";
+  std::string const text = document_of(object, file);
+  Object const from_string = loaded<Object>(dom::Document::load_string(text));
+  EXPECT_EQ(document_of(from_string), text);
+  EXPECT_EQ(dump_of(loaded<Object>(dom::Document::load_file(file))), dump_of(from_string));
+  EXPECT_TRUE(!is_carried_whole<Object> || dump_of(from_string) == dump_of(object));
+}
+
+template <class Object>
+void check(Object const& object) {
+  constexpr bool is_table = !std::is_base_of_v<DescriptorBase, Object>;
+  constexpr bool save_may_throw =
+      std::is_same_v<Object, DescriptorAitRoutingIPv6> || std::is_same_v<Object, Ait>;
+  expect_round_trip(object);
+  expect_everything_is_needed(object, is_table);
+  expect_refusals_are_met(object, is_table, save_may_throw);
+  expect_survival(object);
+}
+
+// Its answer is false, and its document has the header alone.
+void check(DsmCC const& table) {
+  Saved saved;
+  EXPECT_FALSE(saved.save(table));
+  DsmCC loaded;
+  loaded.data = {7};
+  saved.load(loaded);
+  EXPECT_EQ(dump_of(loaded), dump_of(table));
+  EXPECT_EQ(loaded.get_data(), Bytes{7});
+}
+
+template <class Table>
+void check_table(std::string const& name) {
+  int checked = 0;
+  for (Step const& step : read_steps("tables/cases/" + name + ".txt")) {
+    if (!step.lines.contains("xml")) continue;
+    const ::testing::ScopedTrace trace(step.file.c_str(), step.line, step.title);
+    Table table;
+    table.Parse(HeapBlock(assemble(step.argument)).data());
+    check(table);
+    ++checked;
+  }
+  EXPECT_GT(checked, 0) << name << " has no case with a document";
+}
+
+TEST(Documents, OfTablesHoldTheirPromises) {
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) check_table<Class>(#Class);
+#include <sivane/tables/table_rows.inc>
+}
+
+template <class Set>
+void check_descriptor(Step const& step) {
+  const ::testing::ScopedTrace trace(step.file.c_str(), step.line, step.title);
+  bool const runs_over = step.lines.contains("after");
+  HeapBlock const bytes(assemble(step.argument) + (runs_over ? assemble(step.lines.at("after")) : Bytes()));
+  Set set;
+  file(set, descriptor_in(bytes));
+  each_row<Set>([&](auto const& row) {
+    for (auto const& descriptor : (set.*row.getter)()) check(descriptor);
+  });
+}
+
+TEST(Documents, OfDescriptorsHoldTheirPromises) {
+  int checked = 0;
+  for (auto const& entry : std::filesystem::directory_iterator(SIVANE_TESTS "/descriptors/cases")) {
+    std::string const name = entry.path().filename().string();
+    for (Step const& step : read_steps("descriptors/cases/" + name)) {
+      if (step.lines.contains("throws")) continue;
+      name.starts_with("ait") ? check_descriptor<AitDescriptorSet>(step)
+                              : check_descriptor<DescriptorSet>(step);
+      ++checked;
+    }
+  }
+  EXPECT_GT(checked, 0);
+}
+
+TEST(DescriptorLists, GoByTheNameOfTheElementAndSkipTheUnknown) {
+  std::string const head = " descriptor_id='137' descriptor_length='1' ";
+  DescriptorSet set;
+  auto const document = dom::Document::load_string(
+      "<it><descriptors><!-- a comment --><hierachy_descriptor/><general_descriptor" + head +
+      "private_data='0a'/>text<User_private_descriptor/><user_private_descriptor" + head +
+      "private_data='0B'/></descriptors></it>");
+  set._parse_descriptors(static_cast<void*>(document.root_node().get()));
+  ASSERT_EQ(set.get_general_descriptors().size(), 1u);
+  EXPECT_EQ(set.get_general_descriptors()[0].tag, 137);
+  EXPECT_EQ(set.get_general_descriptors()[0].data, Bytes{0x0A});
+  ASSERT_EQ(set.get_user_private_descriptors().size(), 1u);
+  EXPECT_EQ(set.get_user_private_descriptors()[0].data, Bytes{0x0B});
+}
+
+TEST(DescriptorLists, LoadingAddsAndKeepsWhatCameBeforeAFailure) {
+  auto const document = dom::Document::load_string(
+      "<it><descriptors><PDC_descriptor descriptor_id='105' descriptor_length='3' "
+      "programme_identification_label='7'/><PDC_descriptor/></descriptors></it>");
+  DescriptorSet set;
+  for (std::size_t const held : {1u, 2u}) {
+    EXPECT_EQ(thrown([&] { set._parse_descriptors(static_cast<void*>(document.root_node().get())); }),
+              "no_errorcode failed to get descriptor_id");
+    EXPECT_EQ(set.get_PDC_descriptors().size(), held);
+  }
+}
+
+}  // namespace
+}  // namespace sivane::testing
