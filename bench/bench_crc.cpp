@@ -7,6 +7,7 @@
 #include <array>
 
 #include "compare.h"
+#include "plain_bytes.h"
 
 namespace {
 
@@ -36,20 +37,10 @@ std::uint32_t sum_of_all(std::vector<unsigned char> const& bytes, std::size_t si
   return sum;
 }
 
-std::vector<unsigned char> noise(std::size_t size) {
-  std::vector<unsigned char> bytes(size);
-  std::uint32_t state = 1;
-  for (unsigned char& byte : bytes) {
-    state = state * 1664525 + 1013904223;
-    byte = static_cast<unsigned char>(state >> 24);
-  }
-  return bytes;
-}
-
 void byte_loop_against_crc(benchmark::State& state) {
   constexpr std::size_t amount = 200000;
   auto const size = static_cast<std::size_t>(state.range(0));
-  auto const bytes = noise(amount / size * size);
+  auto const bytes = sivane::testing::noise(amount / size * size);
   std::uint32_t theirs = 0;
   std::uint32_t ours = 0;
   sivane::bench::compare(

@@ -8,19 +8,18 @@
 
 #include "compare.h"
 #include "count.h"
-#include "section_builder.h"
+#include "plain_bytes.h"
 
 namespace {
 
 using sivane::testing::Bytes;
+using sivane::testing::characters;
 using sivane::testing::hex;
 using sivane::testing::make_descriptor;
 using sivane::testing::operator+;
 
-Bytes text(std::string_view characters) { return {characters.begin(), characters.end()}; }
-
-Bytes prefixed(std::string_view characters) {
-  return Bytes{static_cast<unsigned char>(characters.size())} + text(characters);
+Bytes prefixed(std::string_view text) {
+  return Bytes{static_cast<unsigned char>(text.size())} + characters(text);
 }
 
 /// One loop an owner: streams of a program map, services, events, transponders.
@@ -29,11 +28,11 @@ std::vector<Bytes> loops() {
   Bytes const teletext = make_descriptor(0x56, hex("646575 09 00 646575 11 50"));
   Bytes const service =
       make_descriptor(0x48, Bytes{0x01} + prefixed("Harbour Media") + prefixed("Harbour One"));
-  Bytes const event = make_descriptor(0x4D, text("eng") + prefixed("The lighthouse keeper") +
+  Bytes const event = make_descriptor(0x4D, characters("eng") + prefixed("The lighthouse keeper") +
                                                 prefixed("A documentary in three parts about the coast"));
   Bytes const long_event = make_descriptor(
       0x4E,
-      Bytes{0x00} + text("eng") + Bytes{0} +
+      Bytes{0x00} + characters("eng") + Bytes{0} +
           prefixed("Sixty years of storms, ships and letters home, told by those who kept the light burning, "
                    "and by the gulls. With pictures from the archive of the harbour office."));
   Bytes const satellite = make_descriptor(0x43, hex("01175850 0192 C9 02750003"));

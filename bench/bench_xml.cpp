@@ -12,24 +12,23 @@
 
 #include "compare.h"
 #include "memory_dom.h"
-#include "section_builder.h"
+#include "plain_bytes.h"
 
 namespace {
 
 using sivane::CComPtr;
 using sivane::dom::Document;
 using sivane::testing::Bytes;
+using sivane::testing::characters;
 using sivane::testing::hex;
 using sivane::testing::make_descriptor;
 using sivane::testing::operator+;
 
-Bytes text(std::string_view characters) { return {characters.begin(), characters.end()}; }
-
 /// Sections of 20 events each, as a schedule has them.
 sivane::Eit large_eit() {
   Bytes const name =
-      make_descriptor(0x4D, text("eng") + Bytes{21} + text("The lighthouse keeper") + Bytes{42} +
-                                text("A documentary in three parts about the sea"));
+      make_descriptor(0x4D, characters("eng") + Bytes{21} + characters("The lighthouse keeper") + Bytes{42} +
+                                characters("A documentary in three parts about the sea"));
   Bytes const loop =
       name + make_descriptor(0x50, hex("F1 03 01 656E67")) + make_descriptor(0x54, hex("2300"));
   Bytes body = hex("0001 0002 00 50");

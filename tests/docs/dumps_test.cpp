@@ -5,18 +5,15 @@
 #include <gtest/gtest.h>
 #include <sivane/sivane.h>
 
-#include <fstream>
 #include <sstream>
 
+#include "file_contents.h"
 #include "section_builder.h"
 #include "section_text.h"
 
 namespace {
 
-std::string page() {
-  std::ifstream file(DUMPS_PAGE);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+std::string page() { return sivane::testing::contents(DUMPS_PAGE); }
 
 template <class Object>
 std::string block_of(Object const& object) {

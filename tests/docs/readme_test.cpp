@@ -8,15 +8,13 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
-#include <fstream>
 #include <string>
+
+#include "file_contents.h"
 
 namespace {
 
-std::string contents(std::filesystem::path const& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+using sivane::testing::contents;
 
 /// The bullet of the page that begins so, up to the next one.
 std::string bullet(std::string const& title) {

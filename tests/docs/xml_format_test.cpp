@@ -6,9 +6,9 @@
 #include <sivane/dom/document.h>
 #include <sivane/sivane.h>
 
-#include <fstream>
 #include <sstream>
 
+#include "file_contents.h"
 #include "memory_dom.h"
 #include "section_builder.h"
 
@@ -16,10 +16,7 @@ namespace {
 
 using namespace sivane::testing;
 
-std::string page() {
-  std::ifstream file(XML_FORMAT_PAGE);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+std::string page() { return contents(XML_FORMAT_PAGE); }
 
 TEST(XmlFormatPage, ShowsWhatTheLibraryWrites) {
   sivane::Pat pat;

@@ -13,6 +13,7 @@
 
 #include "case_file.h"
 #include "case_input.h"
+#include "file_contents.h"
 #include "run_inspect.h"
 
 namespace sivane::testing {

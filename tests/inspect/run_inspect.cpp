@@ -12,6 +12,8 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "file_contents.h"
+
 namespace sivane::testing {
 
 namespace {
@@ -41,12 +43,6 @@ void replace(std::string& text, std::string const& old, std::string const& by) {
 }
 
 }  // namespace
-
-std::string contents(std::string const& path) {
-  std::ostringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
-}
 
 Outcome inspect(std::string arguments, std::string const& input) {
   Folder const folder;

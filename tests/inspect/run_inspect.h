@@ -20,8 +20,6 @@ struct Outcome {
 Outcome inspect(std::string arguments, std::string const& input = "");
 Outcome inspect(std::string const& arguments, Bytes const& input);
 
-/// What a file holds.
-std::string contents(std::string const& path);
 std::string hex_text(Bytes const& bytes);
 int line_count(std::string const& text);
 

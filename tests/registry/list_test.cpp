@@ -9,6 +9,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "file_contents.h"
 #include "registries.h"
 
 namespace sivane::testing {
@@ -91,9 +92,7 @@ TEST(RegistryList, StopsTheBuildWhenItIsMalformed) {
   std::string const command = "'" SIVANE_MAKE_TABLES "' '" + tables + "' '" + list + "' 2> '" + errors + "'";
   EXPECT_NE(std::system(command.c_str()), 0);
   EXPECT_FALSE(fs::exists(tables));
-  std::ostringstream complaint;
-  complaint << std::ifstream(errors).rdbuf();
-  EXPECT_EQ(complaint.str(), list + ":2: no tab between ids and name\n");
+  EXPECT_EQ(contents(errors), list + ":2: no tab between ids and name\n");
 }
 
 }  // namespace

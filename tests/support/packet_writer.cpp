@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "plain_bytes.h"
+
 namespace sivane::testing {
 
 namespace {
@@ -12,8 +14,6 @@ namespace {
 constexpr std::size_t packet_size = 188;
 constexpr std::size_t header_size = 4;
 constexpr std::size_t payload_size = packet_size - header_size;
-
-unsigned char low_byte(int value) { return static_cast<unsigned char>(value & 0xFF); }
 
 Bytes slice(Bytes const& bytes, std::size_t from, std::size_t count) {
   std::size_t const end = std::min(bytes.size(), from + count);

@@ -5,13 +5,13 @@
 #include <cctype>
 #include <stdexcept>
 
+#include "plain_bytes.h"
+
 namespace sivane::testing {
 
 namespace {
 
 constexpr std::size_t crc_size = 4;
-
-unsigned char low_byte(int value) { return static_cast<unsigned char>(value & 0xFF); }
 
 void append_16(Bytes& bytes, int value) {
   bytes.push_back(low_byte(value >> 8));

@@ -3,19 +3,11 @@
 #include <gtest/gtest.h>
 #include <sivane/tables/crc.h>
 
-#include <random>
-
 #include "heap_block.h"
+#include "plain_bytes.h"
 
 namespace sivane::testing {
 namespace {
-
-Bytes noise(std::size_t size) {
-  std::mt19937 random(1);
-  Bytes bytes(size);
-  for (unsigned char& byte : bytes) byte = static_cast<unsigned char>(random());
-  return bytes;
-}
 
 TEST(Crc, OfExactlyTheBytesOfABlock) {
   EXPECT_EQ(slow_crc(hex("31 32 33 34 35 36 37 38 39")), 0x0376E6E7u);
