@@ -3,6 +3,8 @@
 #include "console.h"
 
 #include <iostream>
+#include <utility>
+#include <vector>
 
 #include "text/visible.h"
 
@@ -12,6 +14,7 @@ namespace {
 
 constinit bool is_quiet = false;
 constinit bool shows_progress = false;
+constinit std::vector<std::string> conclusions;
 
 }  // namespace
 
@@ -25,6 +28,13 @@ void note(std::string_view line) {
 }
 
 void be_quiet() { is_quiet = true; }
+
+void conclude(std::string line) { conclusions.push_back(std::move(line)); }
+
+void print_conclusions() {
+  for (std::string const& line : conclusions) note(line);
+  conclusions.clear();
+}
 
 void show_progress(std::string_view line) {
   clear_progress();

@@ -12,9 +12,13 @@ namespace inspect {
 /// One line behind the program's name. Control characters in it are made visible.
 void report(std::string_view line);
 
-/// The same for what `--quiet` leaves out: counts and notes that are no failure.
+/// The same for what `--quiet` leaves out, which is no failure.
 void note(std::string_view line);
 void be_quiet();
+
+/// A note for the end of the run, when all that is shown was shown.
+void conclude(std::string line);
+void print_conclusions();
 
 /// One line that the next replaces, for a terminal; every other line removes it.
 void show_progress(std::string_view line);
