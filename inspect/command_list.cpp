@@ -5,6 +5,7 @@
 #include "commands/dump.h"
 #include "commands/events.h"
 #include "commands/networks.h"
+#include "commands/programs.h"
 #include "commands/sections.h"
 #include "commands/services.h"
 #include "commands/xml.h"
@@ -29,6 +30,9 @@ constexpr CommandRow rows[] = {
      make<SectionsCommand>},
     {"services", "List the services with their names, types and states", bytes, make<ServicesCommand>},
     {"events", "List the events with their times (UTC) and names", bytes, make<EventsCommand>},
+    {"programs",
+     "List programs with their PIDs, stream types, languages, CA systems and shares of the bit rate", bytes,
+     make<ProgramsCommand>},
     {"networks", "List networks, bouquets and CA systems with their names", bytes, make<NetworksCommand>},
 };
 

@@ -29,6 +29,9 @@ constexpr HelpRow sources[] = {
      "datagrams to an address of this machine or to a multicast group, which is joined on the interface of "
      "ADDRESS"},
     {"rtp://...", "the same, the packets in RTP and put back in order"},
+    {"dvb://ADAPTER[/DEMUX]",
+     "a DVB adapter of this machine that something else has tuned; tried with a stand-in for the device "
+     "only"},
 };
 
 constexpr HelpRow ends[] = {

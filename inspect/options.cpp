@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "input/dvb_input.h"
 #include "nearest_word.h"
 
 namespace inspect {
@@ -70,6 +71,8 @@ void refuse_what_has_no_packets(Options const& options) {
     throw CLI::ValidationError("--handle", "only a transport stream has PIDs (--input ts or packets)");
   if (options.packets)
     throw CLI::ValidationError("--packets", "only a transport stream has packets (--input ts or packets)");
+  if (is_dvb(options.source))
+    throw CLI::ValidationError("--input", "an adapter gives packets (--input ts or packets)");
 }
 
 }  // namespace

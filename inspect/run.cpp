@@ -7,9 +7,11 @@
 #include <ostream>
 
 #include "console.h"
+#include "input/dvb_input.h"
 #include "input/packet_input.h"
 #include "input/section_list_input.h"
 #include "input/source.h"
+#include "input/ts_input.h"
 #include "input/xml_input.h"
 #include "output.h"
 
@@ -24,24 +26,34 @@ void read_input(Source& source, Options const& options, Command& command) {
     case Input::xml:
       return read_xml(source, command);
     case Input::ts:
+      return read_ts(source, options, command);
     case Input::packets:
       return read_packets(source, options, command);
   }
 }
 
-ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
-  auto const source = open_source(options.source, options.follow, end);
+/// Reads to the end of the run. A fault on the way is told, and what was found up to there is shown.
+template <class Read>
+ExitStatus read_to_end(Read read, Command& command) {
   ExitStatus status = all_well;
   try {
-    read_input(*source, options, command);
+    read();
+  } catch (NoInput const&) {
+    throw;
   } catch (InputFault const& fault) {
     report(fault.what());
     status = unusable;
   }
   clear_progress();
   command.finish();
+  return status == all_well && command.failures() > 0 ? section_failed : status;
+}
+
+ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
+  if (is_dvb(options.source)) return read_to_end([&] { read_dvb(options, command, end); }, command);
+  auto const source = open_source(options.source, options.follow, end);
+  ExitStatus const status = read_to_end([&] { read_input(*source, options, command); }, command);
   source->report_losses();
-  if (status == all_well && command.failures() > 0) status = section_failed;
   return status;
 } catch (NoInput const& fault) {
   report(fault.what());
@@ -50,7 +62,7 @@ ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
 
 void count_failures(Command const& command) {
   if (command.failures() == 0) return;
-  note(grouped(command.failures()) + " of " + counted(command.number(), "section") + " failed");
+  conclude(grouped(command.failures()) + " of " + counted(command.number(), "section") + " failed");
 }
 
 }  // namespace
@@ -65,6 +77,7 @@ ExitStatus run(Options const& options) try {
   ExitStatus const status = read_all(options, *command, end);
   out.flush();
   count_failures(*command);
+  print_conclusions();
   return status;
 } catch (OutputLost const& lost) {
   report("cannot write to standard output: " + lost.reason);

@@ -47,7 +47,7 @@ RunEnd::RunEnd(std::optional<double> seconds, std::function<void()> before_waiti
 
 bool RunEnd::has_come() const { return signal_came != 0 || (deadline_ && Clock::now() >= *deadline_); }
 
-bool RunEnd::wait(std::span<pollfd> files, std::chrono::milliseconds longest) {
+bool RunEnd::wait(std::span<pollfd> files, std::chrono::milliseconds longest, Poll const& poll) {
   if (has_come()) return false;
   if (poll(files.data(), files.size(), 0) > 0) return true;
   before_waiting_();

@@ -16,13 +16,16 @@ namespace inspect {
 class RunEnd {
  public:
   using Clock = std::chrono::steady_clock;
+  using Poll = std::function<int(pollfd*, nfds_t, int)>;
 
   /// `before_waiting` is called when there is nothing to read yet: what was found is to be shown then.
   RunEnd(std::optional<double> seconds, std::function<void()> before_waiting);
 
   bool has_come() const;
   /// Waits until one of the files can be read, `longest` at most. False where the run is over, or the time.
-  bool wait(std::span<pollfd> files, std::chrono::milliseconds longest = std::chrono::hours(1));
+  /// `poll` is the system's, or stands for it.
+  bool wait(std::span<pollfd> files, std::chrono::milliseconds longest = std::chrono::hours(1),
+            Poll const& poll = ::poll);
 
  private:
   std::optional<Clock::time_point> deadline_;

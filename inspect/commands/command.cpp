@@ -9,9 +9,11 @@
 
 namespace inspect {
 
-void Command::take(Section const& section) {
+bool Command::take(Section const& section) {
   ++number_;
+  has_right_crc_ = true;
   show(section);
+  return has_right_crc_;
 }
 
 void Command::take_broken(char const* reason) {
@@ -33,7 +35,7 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
       table->parse(section.bytes);
     }
   } catch (sivane::error const& failure) {
-    fail(section, {table_class->name, failure.code, failure.what()});
+    fail(section, {table_class->name, failure.code, failure.what(), failure.offset});
     return nullptr;
   }
   return table;
@@ -41,6 +43,7 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
 
 void Command::fail(Section const& section, Failure const& failure) {
   ++failures_;
+  if (failure.what == "crc error") has_right_crc_ = false;
   show_failure(failure);
   report("section " + grouped(number_) + ": " + failure_text(section, failure));
 }

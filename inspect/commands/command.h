@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "input/packet_counts.h"
 #include "input/section.h"
 #include "tables/table_classes.h"
 
@@ -32,11 +33,16 @@ class Command {
  public:
   virtual ~Command() = default;
 
-  void take(Section const& section);
+  /// False where the section's CRC turned out to be wrong.
+  bool take(Section const& section);
   /// Takes the place of a section that the input could not make out.
   void take_broken(char const* reason);
   /// Called once after the last section.
   virtual void finish() {}
+
+  /// Whether the packets of all PIDs are to be counted; `take_packets` gets them before `finish`.
+  virtual bool wants_packets() const { return false; }
+  virtual void take_packets(PacketCounts const&) {}
 
   int number() const { return number_; }
   int failures() const { return failures_; }
@@ -55,6 +61,7 @@ class Command {
 
   int number_ = 0;
   int failures_ = 0;
+  bool has_right_crc_ = true;  // of the latest section, as far as it was looked at
 };
 
 }  // namespace inspect

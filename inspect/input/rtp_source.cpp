@@ -39,7 +39,7 @@ void RtpSource::receive_some(std::span<unsigned char> buffer) {
 void RtpSource::report_losses() const {
   auto const& [lost, late, reordered, foreign] = order_.counts();
   if (lost > 0 || late > 0 || foreign > 0) {
-    note(name_ + ": " + counted(lost, "RTP packet") + " lost, " + grouped(late) + " repeated or late, " +
+    conclude(name_ + ": " + counted(lost, "RTP packet") + " lost, " + grouped(late) + " repeated or late, " +
          grouped(reordered) + " out of order, " + counted(foreign, "datagram") + " not of RTP");
   }
 }

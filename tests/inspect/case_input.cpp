@@ -72,8 +72,8 @@ Bytes make_input(std::vector<Line> const& lines) {
       packets.null_packets(std::stoi(text));
     } else if (key == "bytes") {
       input = input + assemble(text);
-    } else if (key == "zeros") {
-      input.resize(input.size() + std::stoul(text));
+    } else if (key == "fill") {
+      input.resize(input.size() + std::stoul(text.substr(2)), hex(text.substr(0, 2))[0]);
     } else {
       throw std::runtime_error("no key of a case: " + line.text);
     }

@@ -19,7 +19,8 @@
 namespace sivane::testing {
 namespace {
 
-constexpr char const* files[] = {"command_line", "dump", "lists", "sections", "streams", "samples", "xml"};
+constexpr char const* files[] = {"command_line", "dump", "lists",   "sections",
+                                 "packets",      "ts",   "samples", "xml"};
 
 /// A block of a case file.
 struct RunCase {

@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// Inputs that come bit by bit: pipes, files that grow, the network. Network tests use the loopback address
+// alone.
+#include <arpa/inet.h>
+#include <gtest/gtest.h>
+#include <packet_writer.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "run_inspect.h"
+#include "tool_process.h"
+
+namespace sivane::testing {
+namespace {
+
+Bytes pat(int id) { return make_pat({{1, 0x1FF0}}, {.context_id = id}); }
+std::string line(int id) { return "0x0000 0x00 " + hex_text(pat(id)) + "\n"; }
+
+/// A PAT and null packets: so many packets as five datagrams of seven need.
+Bytes stream_of(std::vector<int> const& ids, int packets) {
+  PacketWriter writer;
+  for (int const id : ids) writer.section(0, pat(id));
+  writer.null_packets(packets - static_cast<int>(ids.size()));
+  return writer.stream();
+}
+
+/// Sends to the tool, once it listens: until then the system says that nobody does.
+class Sender {
+ public:
+  Sender() : socket_(socket(AF_INET, SOCK_DGRAM, 0)) {
+    int const probe = socket(AF_INET, SOCK_DGRAM, 0);
+    address_.sin_family = AF_INET;
+    address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address_;
+    EXPECT_EQ(bind(probe, reinterpret_cast<sockaddr*>(&address_), size), 0);
+    getsockname(probe, reinterpret_cast<sockaddr*>(&address_), &size);
+    close(probe);
+    EXPECT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address_), size), 0);
+  }
+  Sender(Sender const&) = delete;
+  Sender& operator=(Sender const&) = delete;
+  ~Sender() { close(socket_); }
+
+  std::string place() const { return "127.0.0.1:" + std::to_string(ntohs(address_.sin_port)); }
+  void send(Bytes const& datagram) {
+    EXPECT_EQ(::send(socket_, datagram.data(), datagram.size(), 0), std::ssize(datagram));
+  }
+  void wait_for_listener() {
+    for (int i = 0; i < 1000; ++i) {
+      ::send(socket_, "", 0, 0);
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+      char none;
+      if (recv(socket_, &none, 1, MSG_DONTWAIT) < 0 && errno != ECONNREFUSED) return;
+    }
+    FAIL() << "nobody listens";
+  }
+
+ private:
+  int socket_;
+  sockaddr_in address_ = {};
+};
+
+/// Seven packets each, as most senders do; the first packet of datagram n is the PAT n.
+std::vector<Bytes> datagrams(int count) {
+  PacketWriter writer;
+  for (int id = 0; id < count; ++id) {
+    writer.section(0, pat(id));
+    writer.null_packets(6);
+  }
+  std::vector<Bytes> result;
+  constexpr int size = 7 * 188;
+  for (auto at = writer.stream().begin(); at != writer.stream().end(); at += size)
+    result.emplace_back(at, at + size);
+  return result;
+}
+
+/// As RTP: with a contributor, an extension and padding, which all are to be taken off.
+Bytes rtp(int number, Bytes const& payload) {
+  auto const low = static_cast<unsigned char>(number);
+  auto const high = static_cast<unsigned char>(number >> 8);
+  return hex("B1 21") + Bytes{high, low} + hex("00000000 12345678 AAAAAAAA BEDE 0001 01020304") + payload +
+         hex("00 00 03");
+}
+
+class TemporaryPath {
+ public:
+  TemporaryPath()
+      : path_(std::filesystem::temp_directory_path() / ("sivane-live-" + std::to_string(getpid()))) {}
+  TemporaryPath(TemporaryPath const&) = delete;
+  TemporaryPath& operator=(TemporaryPath const&) = delete;
+  ~TemporaryPath() { std::filesystem::remove(path_); }
+  std::string string() const { return path_.string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace
+
+TEST(InspectLive, ShowsWhatAPipeHasAtOnce) {
+  ToolProcess tool("sections -");
+  tool.write(stream_of({1}, 20));
+  EXPECT_EQ(tool.read_until("\n"), line(1));
+  tool.write(stream_of({2}, 20));
+  EXPECT_EQ(tool.read_until(line(2)), line(1) + line(2));
+  tool.close_input();
+  EXPECT_EQ(tool.wait(), 0);
+}
+
+TEST(InspectLive, ASignalEndsARunAsItsInputWould) {
+  for (int const number : {SIGINT, SIGTERM}) {
+    ToolProcess document("xml -");
+    document.write(stream_of({1}, 20));
+    document.read_until("</Pat>");
+    document.signal(number);
+    EXPECT_EQ(document.wait(), 0);
+    EXPECT_TRUE(document.output().ends_with("</Pat>\n</sections>\n")) << document.output();
+
+    ToolProcess list("programs -");
+    list.write(stream_of({1}, 20));
+    list.drain();
+    list.signal(number);
+    EXPECT_EQ(list.wait(), 0);
+    EXPECT_NE(list.output().find("0x1ff0  PMT"), std::string::npos) << list.output();
+  }
+}
+
+TEST(InspectLive, TimeEndsARun) {
+  ToolProcess tool("sections --seconds 0.2 -");
+  tool.write(stream_of({1}, 20));
+  EXPECT_EQ(tool.wait(), 0);
+  EXPECT_EQ(tool.output(), line(1));
+}
+
+TEST(InspectLive, FollowsAFileThatGrows) {
+  TemporaryPath const path;
+  auto const append = [&path](Bytes const& bytes) {
+    std::ofstream(path.string(), std::ios::binary | std::ios::app) << std::string(bytes.begin(), bytes.end());
+  };
+  append(stream_of({1}, 20));
+  ToolProcess tool("sections --follow " + path.string());
+  tool.read_until(line(1));
+  append(stream_of({2}, 20));
+  tool.read_until(line(2));
+  tool.signal(SIGTERM);
+  EXPECT_EQ(tool.wait(), 0);
+}
+
+TEST(InspectLive, WaitsForTheWriterOfANamedPipe) {
+  TemporaryPath const path;
+  ASSERT_EQ(mkfifo(path.string().c_str(), 0600), 0);
+  ToolProcess tool("sections " + path.string());
+  Bytes const stream = stream_of({1}, 20);
+  std::ofstream(path.string(), std::ios::binary) << std::string(stream.begin(), stream.end());
+  EXPECT_EQ(tool.wait(), 0);
+  EXPECT_EQ(tool.output(), line(1));
+}
+
+TEST(InspectLive, TellsWhatTheNetworkLost) {
+  Sender sender;
+  ToolProcess tool("sections --packets 42 udp://@" + sender.place());
+  sender.wait_for_listener();
+  std::vector<Bytes> const all = datagrams(7);
+  for (int const number : {0, 1, 3, 3, 5, 4}) sender.send(all[static_cast<std::size_t>(number)]);
+  EXPECT_EQ(tool.wait(), 0);
+  std::string const lines = line(0) + line(1) + line(3) + line(5) + line(4);
+  EXPECT_EQ(tool.output(), lines + "sivane-inspect: PID 0x0000: 3 gaps, 16 missing packets\n");
+}
+
+TEST(InspectLive, PutsRtpBackInOrder) {
+  Sender sender;
+  ToolProcess tool("sections --packets 42 rtp://" + sender.place());
+  sender.wait_for_listener();
+  std::vector<Bytes> const all = datagrams(7);
+  for (int const number : {0, 2, 1, 1, 3, 6, 4}) {
+    sender.send(rtp(65533 + number, all[static_cast<std::size_t>(number)]));
+  }
+  sender.send(hex("00 01 02"));
+  EXPECT_EQ(tool.wait(), 0);
+  std::string const summary =
+      "sivane-inspect: PID 0x0000: 1 gap, 1 missing packet\nsivane-inspect: rtp://" + sender.place() +
+      ": 1 RTP packet lost, 1 repeated or late, 2 out of order, 1 datagram not of RTP\n";
+  EXPECT_EQ(tool.output(), line(0) + line(1) + line(2) + line(3) + line(4) + line(6) + summary);
+}
+
+}  // namespace sivane::testing
