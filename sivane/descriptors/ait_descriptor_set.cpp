@@ -11,12 +11,13 @@ namespace sivane {
 
 void AitDescriptorSet::ParseDescriptorAit(DescriptorBytes descriptor) {
   int const row = row_of_tag[static_cast<std::size_t>(descriptor.tag())];
-  rows[row].parse(groups_, row, descriptor);
+  rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
 }
 
 void AitDescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
-  reader.each_descriptor(
-      size, failure, [this](DescriptorBytes d) { ParseDescriptorAit(d); }, end);
+  reader.descriptor_loop(size, failure, end, [this](DescriptorLoop& loop) {
+    DescriptorStorage::parse(groups_, rows, row_of_tag, loop);
+  });
 }
 
 void AitDescriptorSet::clear_general_descriptors() {

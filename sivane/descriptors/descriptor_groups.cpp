@@ -6,14 +6,84 @@
 
 namespace sivane {
 
-DescriptorGroups::DescriptorGroups() noexcept = default;
-DescriptorGroups::DescriptorGroups(DescriptorGroups const& other) : first_(DescriptorStorage::copy(other)) {}
-DescriptorGroups::DescriptorGroups(DescriptorGroups&&) noexcept = default;
-DescriptorGroups& DescriptorGroups::operator=(DescriptorGroups const& other) {
-  first_ = DescriptorStorage::copy(other);
-  return *this;
+void DescriptorGroups::copy(DescriptorGroups const& other) {
+  if (other.block_ == nullptr) return;
+  DescriptorStorage::reserve(*this, other.block_->size);
+  for (Block::Slot& slot : *other.block_) {
+    Block::Slot* const copied = block_->end();
+    copied->row = slot.row;
+    copied->operations = slot.operations;
+    slot.operations->copy(copied->vector(), slot.vector());
+    ++block_->size;
+  }
 }
-DescriptorGroups& DescriptorGroups::operator=(DescriptorGroups&&) noexcept = default;
-DescriptorGroups::~DescriptorGroups() = default;
+
+void DescriptorGroups::release() noexcept {
+  for (Block::Slot& slot : *block_) slot.operations->destroy(slot.vector());
+  ::operator delete(block_);
+}
+
+void DescriptorStorage::reserve(DescriptorGroups& groups, std::size_t capacity) {
+  Block* const made = new (::operator new(sizeof(Block) + capacity * sizeof(Slot))) Block{0, capacity};
+  if (groups.block_ != nullptr) {
+    for (Slot& slot : *groups.block_) {
+      Slot* const moved = made->end();
+      moved->row = slot.row;
+      moved->operations = slot.operations;
+      slot.operations->relocate(moved->vector(), slot.vector());
+      ++made->size;
+    }
+    ::operator delete(groups.block_);
+  }
+  groups.block_ = made;
+}
+
+void* DescriptorStorage::make(DescriptorGroups& groups, VectorOperations const& operations, int row,
+                              std::size_t reserved) {
+  Block const* const block = groups.block_;
+  if (block == nullptr || block->size == block->capacity) {
+    reserve(groups, block == nullptr ? 1 : 2 * block->capacity);
+  }
+  Slot* const slot = groups.block_->end();
+  slot->row = row;
+  slot->operations = &operations;
+  operations.make(slot->vector(), reserved);
+  ++groups.block_->size;
+  return slot->vector();
+}
+
+void DescriptorStorage::parse(DescriptorGroups& groups, DescriptorRow const* rows, RowOfTag const& row_of_tag,
+                              DescriptorLoop& loop) {
+  if (groups.block_ == nullptr && loop.runs() > 0) reserve(groups, loop.runs());
+  while (loop.more()) {
+    std::size_t run = loop.run();
+    DescriptorBytes const first = loop.next();
+    int const row = row_of_tag[static_cast<std::size_t>(first.tag())];
+    auto* const parse_into = rows[row].operations->parse;
+    void* const filed = vector(groups, rows, row, run);
+    for (parse_into(filed, first); run > 1; --run) parse_into(filed, loop.next());
+  }
+}
+
+void DescriptorStorage::erase(DescriptorGroups& groups, int row) {
+  Slot* const slot = find(groups, row);
+  if (slot == nullptr) return;
+  slot->operations->destroy(slot->vector());
+  Slot* const last = groups.block_->end() - 1;
+  --groups.block_->size;
+  if (slot == last) return;
+  slot->row = last->row;
+  slot->operations = last->operations;
+  slot->operations->relocate(slot->vector(), last->vector());
+}
+
+DescriptorStorage::Slot* DescriptorStorage::next(DescriptorGroups const& groups, int row) {
+  Slot* found = nullptr;
+  if (groups.block_ == nullptr) return found;
+  for (Slot& slot : *groups.block_) {
+    if (slot.row > row && (found == nullptr || slot.row < found->row)) found = &slot;
+  }
+  return found;
+}
 
 }  // namespace sivane

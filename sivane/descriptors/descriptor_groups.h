@@ -4,26 +4,35 @@
 
 #include <sivane/foundation/export.h>
 
-#include <memory>
+#include <utility>
 
 namespace sivane {
 
-/// What a descriptor set is stored in: a vector for each of its rows that holds something. Empty it is one
-/// null pointer, and copying it then costs nothing.
+/// What a descriptor set is stored in: one block with a vector for each of its rows that holds something.
+/// Empty it is one null pointer, and copying it then costs nothing.
 class SIVANE_API DescriptorGroups {
  public:
-  DescriptorGroups() noexcept;
-  DescriptorGroups(DescriptorGroups const& other);
-  DescriptorGroups(DescriptorGroups&& other) noexcept;
-  DescriptorGroups& operator=(DescriptorGroups const& other);
-  DescriptorGroups& operator=(DescriptorGroups&& other) noexcept;
-  ~DescriptorGroups();
+  DescriptorGroups() noexcept = default;
+  DescriptorGroups(DescriptorGroups const& other) : DescriptorGroups() { copy(other); }
+  DescriptorGroups(DescriptorGroups&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+  DescriptorGroups& operator=(DescriptorGroups const& other) { return *this = DescriptorGroups(other); }
+  DescriptorGroups& operator=(DescriptorGroups&& other) noexcept {
+    DescriptorGroups taken(std::move(other));
+    std::swap(block_, taken.block_);
+    return *this;
+  }
+  ~DescriptorGroups() {
+    if (block_ != nullptr) release();
+  }
 
  private:
-  struct SIVANE_LOCAL Group;        // the vector of one row
+  struct SIVANE_LOCAL Block;
   friend struct DescriptorStorage;  // what is done with groups
 
-  std::unique_ptr<Group> first_;  // linked in row order
+  void copy(DescriptorGroups const& other);
+  void release() noexcept;
+
+  Block* block_ = nullptr;
 };
 
 }  // namespace sivane

@@ -11,12 +11,13 @@ namespace sivane {
 
 void DescriptorSet::ParseDescriptor(DescriptorBytes descriptor) {
   int const row = row_of_tag[static_cast<std::size_t>(descriptor.tag())];
-  rows[row].parse(groups_, row, descriptor);
+  rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
 }
 
 void DescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
-  reader.each_descriptor(
-      size, failure, [this](DescriptorBytes d) { ParseDescriptor(d); }, end);
+  reader.descriptor_loop(size, failure, end, [this](DescriptorLoop& loop) {
+    DescriptorStorage::parse(groups_, rows, row_of_tag, loop);
+  });
 }
 
 void DescriptorSet::clear_general_descriptors() {

@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -18,101 +19,122 @@ namespace sivane {
 class AitDescriptorSet;
 class DescriptorSet;
 
-struct DescriptorGroups::Group {
-  Group(int number, std::unique_ptr<Group> behind) : row(number), next(std::move(behind)) {}
-  virtual ~Group() = default;
-  virtual std::unique_ptr<Group> copy() const = 0;  // without those behind
-  virtual std::size_t size() const = 0;
-  virtual DescriptorBase const& at(std::size_t index) const = 0;
-
-  int row;
-  std::unique_ptr<Group> next;
+/// What is done with the vector of a row, whose class only the row knows.
+struct VectorOperations {
+  void (*make)(void* place, std::size_t reserved);
+  void (*copy)(void* place, void const* from);
+  void (*relocate)(void* place, void* from) noexcept;
+  void (*destroy)(void* vector) noexcept;
+  std::size_t (*size)(void const* vector);
+  DescriptorBase const& (*at)(void const* vector, std::size_t index);
+  void (*parse)(void* vector, DescriptorBytes bytes);
+  void (*load)(void* vector, void* node);
 };
 
-struct DescriptorStorage {
-  using Group = DescriptorGroups::Group;
-  using Link = std::unique_ptr<Group>;
+template <class Descriptor>
+struct VectorOf {
+  using Vector = std::vector<Descriptor>;
+  static Vector& of(void* vector) { return *static_cast<Vector*>(vector); }
+  static Vector const& of(void const* vector) { return *static_cast<Vector const*>(vector); }
 
-  template <class Descriptor>
-  struct GroupOf final : Group {
-    GroupOf(int number, Link behind, std::vector<Descriptor> held = {})
-        : Group(number, std::move(behind)), items(std::move(held)) {}
-    Link copy() const override { return std::make_unique<GroupOf>(row, nullptr, items); }
-    std::size_t size() const override { return items.size(); }
-    DescriptorBase const& at(std::size_t index) const override { return items[index]; }
-
-    std::vector<Descriptor> items;
-  };
-
-  template <class Descriptor>
-  static void append(DescriptorGroups& groups, int row, Descriptor&& descriptor) {
-    Link& at = place(groups, row);
-    if (!at || at->row != row) at = std::make_unique<GroupOf<Descriptor>>(row, std::move(at));
-    static_cast<GroupOf<Descriptor>&>(*at).items.push_back(std::forward<Descriptor>(descriptor));
+  static void make(void* place, std::size_t reserved) { (new (place) Vector())->reserve(reserved); }
+  static void copy(void* place, void const* from) { new (place) Vector(of(from)); }
+  static void relocate(void* place, void* from) noexcept {
+    new (place) Vector(std::move(of(from)));
+    destroy(from);
+  }
+  static void destroy(void* vector) noexcept { std::destroy_at(&of(vector)); }
+  static std::size_t size(void const* vector) { return of(vector).size(); }
+  static DescriptorBase const& at(void const* vector, std::size_t index) { return of(vector)[index]; }
+  static void parse(void* vector, DescriptorBytes bytes) { of(vector).emplace_back(bytes); }
+  static void load(void* vector, void* node) {
+    Descriptor descriptor;
+    descriptor.Parse(node);
+    of(vector).push_back(std::move(descriptor));
   }
 
-  template <class Descriptor>
-  static std::vector<Descriptor> const& items(DescriptorGroups const& groups, int row) {
-    static std::vector<Descriptor> const none;
-    Group const* group = groups.first_.get();
-    while (group != nullptr && group->row < row) group = group->next.get();
-    if (group == nullptr || group->row != row) return none;
-    return static_cast<GroupOf<Descriptor> const&>(*group).items;
-  }
-
-  static void erase(DescriptorGroups& groups, int row) {
-    Link& at = place(groups, row);
-    if (at && at->row == row) at = std::move(at->next);
-  }
-
-  /// Calls `visit(row, descriptor)` for each, row by row.
-  template <class Visit>
-  static void each(DescriptorGroups const& groups, Visit visit) {
-    for (Group const* group = groups.first_.get(); group != nullptr; group = group->next.get()) {
-      for (std::size_t i = 0; i < group->size(); ++i) visit(group->row, group->at(i));
-    }
-  }
-
-  static Link copy(DescriptorGroups const& groups) {
-    Link copied;
-    Link* end = &copied;
-    for (Group const* group = groups.first_.get(); group != nullptr; group = group->next.get()) {
-      *end = group->copy();
-      end = &(*end)->next;
-    }
-    return copied;
-  }
-
- private:
-  /// Where the group of `row` is linked, or would be.
-  static Link& place(DescriptorGroups& groups, int row) {
-    Link* at = &groups.first_;
-    while (*at && (*at)->row < row) at = &(*at)->next;
-    return *at;
-  }
+  static constexpr VectorOperations operations = {make, copy, relocate, destroy, size, at, parse, load};
 };
 
-/// A row of a set: which tag is filed there, and how a descriptor comes there from bytes and from its
-/// element.
+/// A row of a set: which tag is filed there, and the operations of its vector.
 struct DescriptorRow {
   enum Kind : int { user_private = -1, other = -2 };  // in place of a tag, for those that have no class
 
   int tag;
-  void (*parse)(DescriptorGroups&, int row, DescriptorBytes);
-  void (*load)(DescriptorGroups&, int row, void* node);
+  VectorOperations const* operations;
 };
 
-template <class Descriptor>
-void parse_into_row(DescriptorGroups& groups, int row, DescriptorBytes bytes) {
-  DescriptorStorage::append(groups, row, Descriptor(bytes));
-}
+/// Slots behind each other, in the order in which their rows were first filled. Of their memory `capacity` is
+/// there and `size` in use.
+struct DescriptorGroups::Block {
+  struct Slot {
+    void* vector() { return bytes; }
 
-template <class Descriptor>
-void load_into_row(DescriptorGroups& groups, int row, void* node) {
-  Descriptor descriptor;
-  descriptor.Parse(node);
-  DescriptorStorage::append(groups, row, std::move(descriptor));
-}
+    int row;
+    VectorOperations const* operations;
+    alignas(std::vector<char>) std::byte bytes[sizeof(std::vector<char>)];
+  };
+
+  Slot* begin() { return reinterpret_cast<Slot*>(this + 1); }
+  Slot* end() { return begin() + size; }
+
+  std::size_t size;
+  std::size_t capacity;
+};
+
+using RowOfTag = std::array<unsigned char, 256>;
+
+struct DescriptorStorage {
+  using Block = DescriptorGroups::Block;
+  using Slot = Block::Slot;
+
+  /// The vector of a row. Where there is none it is made, with room for `reserved` descriptors.
+  static void* vector(DescriptorGroups& groups, DescriptorRow const* rows, int row,
+                      std::size_t reserved = 0) {
+    Slot* const slot = find(groups, row);
+    return slot != nullptr ? slot->vector() : make(groups, *rows[row].operations, row, reserved);
+  }
+
+  template <class Descriptor>
+  static std::vector<Descriptor> const& items(DescriptorGroups const& groups, int row) {
+    static_assert(sizeof(std::vector<Descriptor>) == sizeof(Slot::bytes));
+    static std::vector<Descriptor> const none;
+    Slot* const slot = find(groups, row);
+    return slot != nullptr ? VectorOf<Descriptor>::of(slot->vector()) : none;
+  }
+
+  /// Files the descriptors of a loop. Those of one tag that follow each other get their memory at once.
+  static void parse(DescriptorGroups& groups, DescriptorRow const* rows, RowOfTag const& row_of_tag,
+                    DescriptorLoop& loop);
+
+  static void erase(DescriptorGroups& groups, int row);
+
+  /// Calls `visit(row, descriptor)` for each, row by row.
+  template <class Visit>
+  static void each(DescriptorGroups const& groups, Visit visit) {
+    for (Slot* slot = next(groups, -1); slot != nullptr; slot = next(groups, slot->row)) {
+      std::size_t const size = slot->operations->size(slot->vector());
+      for (std::size_t i = 0; i < size; ++i) visit(slot->row, slot->operations->at(slot->vector(), i));
+    }
+  }
+
+  /// Gives the groups a block of `capacity`, which holds what they have.
+  static void reserve(DescriptorGroups& groups, std::size_t capacity);
+
+ private:
+  static Slot* find(DescriptorGroups const& groups, int row) {
+    if (groups.block_ == nullptr) return nullptr;
+    for (Slot& slot : *groups.block_) {
+      if (slot.row == row) return &slot;
+    }
+    return nullptr;
+  }
+
+  /// The slot of the lowest row above `row`.
+  static Slot* next(DescriptorGroups const& groups, int row);
+  static void* make(DescriptorGroups& groups, VectorOperations const& operations, int row,
+                    std::size_t reserved);
+};
 
 /// The rows of a set. They are made in the set's own source alone: what each costs the compiler is paid once.
 template <class Set>
@@ -124,7 +146,7 @@ DescriptorRow const* rows_of<AitDescriptorSet>();
 
 /// The row of each tag: its own; without one, `user_private` from 0x80 on and `other` below.
 template <std::size_t count>
-constexpr std::array<unsigned char, 256> rows_of_tags(DescriptorRow const (&rows)[count]) {
+constexpr RowOfTag rows_of_tags(DescriptorRow const (&rows)[count]) {
   auto const row_of = [&rows](int tag) {
     int const kind = tag < 0x80 ? DescriptorRow::other : DescriptorRow::user_private;
     std::size_t without_class = 0;
@@ -134,7 +156,7 @@ constexpr std::array<unsigned char, 256> rows_of_tags(DescriptorRow const (&rows
     }
     return without_class;
   };
-  std::array<unsigned char, 256> rows_by_tag{};
+  RowOfTag rows_by_tag{};
   for (int tag = 0; tag < 256; ++tag) {
     rows_by_tag[static_cast<std::size_t>(tag)] = static_cast<unsigned char>(row_of(tag));
   }

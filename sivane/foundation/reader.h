@@ -2,49 +2,17 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <sivane/foundation/error.h>
+#include <sivane/foundation/descriptor_bytes.h>
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/failure.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <initializer_list>
 #include <string>
 #include <vector>
 
 namespace sivane {
-
-/// What is thrown when bytes run out: a code alone, a text alone (`no_errorcode`) or both.
-struct Failure {
-  error::errorcode_enum code = error::no_errorcode;
-  char const* text = nullptr;
-};
-/// Throws it as an `error`; `offset` is where in the section.
-[[noreturn]] SIVANE_API void raise(Failure failure, int offset = -1);
-
-/// Thrown where no rule names another failure.
-inline constexpr Failure too_little_data{error::no_errorcode, "too little data"};
-
-class Reader;
-
-/// Whether the last descriptor of a loop may run over the loop.
-enum class LoopEnd { open, exact };
-
-/// One descriptor, how far its reading may go, and where in its section it begins. A bare pointer is bounded
-/// by the descriptor's own length byte and belongs to no section.
-struct SIVANE_API DescriptorBytes {
-  DescriptorBytes(unsigned char const* descriptor);
-  /// `end` is where the section ends, `begin` the descriptor's offset in it, -1 for none. Throws "too little
-  /// data" where not even tag and length stand before the end.
-  DescriptorBytes(unsigned char const* descriptor, unsigned char const* end, int begin = -1);
-
-  int tag() const { return first[0]; }
-  int length() const { return first[1]; }
-  /// A reader of the body; `overrun` is thrown by a read that would pass `limit`.
-  Reader body(Failure overrun = too_little_data) const;
-
-  unsigned char const* first;
-  int available;  ///< bytes from `first` on that may be read
-  int offset;     ///< bytes from the start of the section to `first`; -1 where there is none
-};
 
 /// Reads big-endian fields of any width in order: everything in the library that reads bytes does it through
 /// here.
@@ -82,12 +50,18 @@ class SIVANE_API Reader {
 
   /// The address of the next `size` bytes, and steps over them.
   unsigned char const* raw(int size) { return at(take(bits_of(size))); }
-  std::string string(int size);
-  std::vector<unsigned char> bytes(int size);
+  std::string string(int size) { return {reinterpret_cast<char const*>(raw(size)), count_of(size)}; }
+  std::vector<unsigned char> bytes(int size) {
+    unsigned char const* const first = raw(size);
+    return {first, first + count_of(size)};
+  }
   /// A length byte and that many characters.
   std::string prefixed_string() { return string(u8()); }
   /// An ISO 639 or ISO 3166 code: three bytes, and a terminating zero behind them.
-  void code(char (&three_letters)[4]);
+  void code(char (&three_letters)[4]) {
+    std::copy_n(raw(3), 3, three_letters);
+    three_letters[3] = '\0';
+  }
   /// The bytes up to the reader's own end; none if the position is there or behind it.
   std::string rest_as_string() { return string(left()); }
   std::vector<unsigned char> rest() { return bytes(left()); }
@@ -100,11 +74,25 @@ class SIVANE_API Reader {
   DescriptorBytes descriptor();
   /// A reader of a loop of the next `size` bytes with the same limit; this one stays where it is. The loop
   /// may claim more than the limit holds: `overrun` is thrown by the read that gets there.
-  Reader loop(int size, Failure overrun) const;
+  Reader loop(int size, Failure overrun) const {
+    return {at(position_), size, bytes_to_limit(), overrun, offset()};
+  }
   /// Calls `take` with each descriptor that starts within the next `size` bytes, and steps over those bytes.
   /// Throws `failure` where one passes the limit, or, if the loop's end is `exact`, the bytes themselves.
   template <class Take>
-  void each_descriptor(int size, Failure failure, Take take, LoopEnd end = LoopEnd::open);
+  void each_descriptor(int size, Failure failure, Take take, LoopEnd end = LoopEnd::open) {
+    descriptor_loop(size, failure, end, [&take](DescriptorLoop& loop) {
+      while (loop.more()) take(loop.next());
+    });
+  }
+  /// The same, where `take` goes through the loop.
+  template <class Take>
+  void descriptor_loop(int size, Failure failure, LoopEnd end, Take take) {
+    DescriptorLoop loop(at(position_), size, bytes_to_limit(), failure, offset());
+    take(loop);
+    loop.close(end);
+    raw(size);
+  }
 
   /// Records of their own sizes up to the end, behind those that `found` has, each built from the reader and
   /// `arguments`; throws `failure` unless the last one ends there.
@@ -142,7 +130,16 @@ class SIVANE_API Reader {
  private:
   static constexpr std::size_t count_of(int bytes) { return bytes > 0 ? static_cast<std::size_t>(bytes) : 0; }
   static constexpr std::size_t bits_of(int bytes) { return count_of(bytes) * 8; }
-  unsigned int number(int count);
+  int bytes_to_limit() const { return static_cast<int>((limit_ - position_) / 8); }
+  unsigned int number(int count) {
+    auto const width = static_cast<std::size_t>(count);
+    std::size_t const bit = take(width);
+    std::size_t const touched = bit % 8 + width;  // bits of the field's bytes, up to its last one
+    unsigned char const* byte = at(bit);
+    unsigned long long value = 0;
+    for (std::size_t read = 0; read < touched; read += 8) value = value << 8 | *byte++;
+    return static_cast<unsigned int>(value >> (0 - touched) % 8 & ((1ull << width) - 1));
+  }
   std::size_t take(std::size_t count) {
     if (count > limit_ - position_) fail(overrun_);
     position_ += count;
@@ -158,6 +155,10 @@ class SIVANE_API Reader {
   Failure overrun_;
   int begin_;  // where in the section `first_` is
 };
+
+inline Reader DescriptorBytes::body(Failure overrun) const {
+  return {first + 2, length(), available - 2, overrun, offset < 0 ? -1 : offset + 2};
+}
 
 template <class Record, class... Arguments>
 void Reader::walk(std::vector<Record>& found, Failure failure, Arguments... arguments) {
@@ -189,17 +190,6 @@ std::vector<Number> Reader::numbers(int width, Failure failure) {
   found.reserve(static_cast<std::size_t>(left() / (width / 8)));
   while (more()) found.push_back(static_cast<Number>(number(width)));
   return found;
-}
-
-template <class Take>
-void Reader::each_descriptor(int size, Failure failure, Take take, LoopEnd end) {
-  Reader descriptors = loop(size, failure);
-  while (descriptors.more()) {
-    DescriptorBytes const descriptor = descriptors.descriptor();
-    take(descriptor);
-    if (end == LoopEnd::exact && descriptors.past_end()) raise(failure, descriptor.offset);
-  }
-  raw(size);
 }
 
 /// Builds a record from a bare pointer as its public constructors do; `consumed` is the bytes that it took.

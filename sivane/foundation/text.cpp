@@ -19,8 +19,6 @@ void Text::parse(int length, unsigned char const* data) {
   append(text + selector, static_cast<std::size_t>(length - selector));
 }
 
-void Text::parse(Reader& reader) { parse(reader, reader.u8()); }
-
 bool Text::is_char_table(char c) {
   auto const byte = static_cast<unsigned char>(c);
   return byte <= 0x06 || (byte >= 0x0F && byte <= 0x12) || byte == 0x1F;

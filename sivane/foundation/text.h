@@ -23,7 +23,7 @@ class SIVANE_API Text : public std::string {
   void parse(unsigned char const* field, int& used);
   void parse(int length, unsigned char const* data);
   /// Appends the length-prefixed field that stands next.
-  void parse(Reader& reader);
+  void parse(Reader& reader) { parse(reader, reader.u8()); }
   /// Appends the next `length` bytes.
   void parse(Reader& reader, int length) { parse(length, reader.raw(length)); }
 

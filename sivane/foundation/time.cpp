@@ -15,8 +15,8 @@ using dump::Line;
 namespace {
 
 int bcd_byte(Reader& reader) {
-  int const tens = reader.bits(4);
-  return tens * 10 + reader.bits(4);
+  int const digits = reader.u8();
+  return (digits >> 4) * 10 + (digits & 0xF);
 }
 
 Line& add(Line& line, DateTime const& d) {

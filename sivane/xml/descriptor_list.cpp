@@ -53,8 +53,8 @@ void load_element(DescriptorGroups& groups, std::span<Name const> element_names,
   std::u16string const name = xml::node_name(element, "failed to get node name");
   auto const found = std::find(element_names.begin(), element_names.end(), name);
   if (found == element_names.end()) return;
-  auto const row = found - element_names.begin();
-  rows[row].load(groups, static_cast<int>(row), element);
+  int const row = static_cast<int>(found - element_names.begin());
+  rows[row].operations->load(DescriptorStorage::vector(groups, rows, row), element);
 }
 
 void load_list(DescriptorGroups& groups, std::span<Name const> element_names, DescriptorRow const* rows,

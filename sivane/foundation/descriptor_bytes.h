@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/foundation/export.h>
+#include <sivane/foundation/failure.h>
+
+#include <algorithm>
+#include <cstddef>
+
+namespace sivane {
+
+class Reader;
+
+/// One descriptor, how far its reading may go, and where in its section it begins. A bare pointer is bounded
+/// by the descriptor's own length byte and belongs to no section.
+struct SIVANE_API DescriptorBytes {
+  DescriptorBytes(unsigned char const* descriptor)
+      : first(descriptor), available(2 + descriptor[1]), offset(-1) {}
+  /// `end` is where the section ends, `begin` the descriptor's offset in it, -1 for none. Throws "too little
+  /// data" where not even tag and length stand before the end.
+  DescriptorBytes(unsigned char const* descriptor, unsigned char const* end, int begin = -1)
+      : first(descriptor), available(static_cast<int>(end - descriptor)), offset(begin) {
+    if (available < 2) raise(too_little_data, begin);
+  }
+
+  int tag() const { return first[0]; }
+  int length() const { return first[1]; }
+  /// A reader of the body; `overrun` is thrown by a read that would pass `limit`.
+  Reader body(Failure overrun = too_little_data) const;
+
+  unsigned char const* first;
+  int available;  ///< bytes from `first` on that may be read
+  int offset;     ///< bytes from the start of the section to `first`; -1 where there is none
+};
+
+/// Whether the last descriptor of a loop may run over the loop.
+enum class LoopEnd { open, exact };
+
+/// Descriptors one behind the other in `size` bytes. The last one may run over them, but none over the limit,
+/// which is the end of the section.
+class DescriptorLoop {
+ public:
+  /// `limit` bytes from `first` on may be read; `begin` is the offset of `first` in the section, -1 for none.
+  /// `failure` is what is thrown.
+  DescriptorLoop(unsigned char const* first, int size, int limit, Failure failure, int begin)
+      : first_(first), size_(size), limit_(limit), failure_(failure), begin_(begin) {}
+
+  bool more() const { return next_ < size_; }
+  /// The next one; throws where it passes the limit.
+  DescriptorBytes next() {
+    last_ = next_;
+    if (!fits(next_, limit_)) raise(failure_, offset());
+    next_ += 2 + first_[next_ + 1];
+    return {first_ + last_, first_ + limit_, offset()};
+  }
+  /// Once there are no more: throws where the last one has run over the loop and may not.
+  void close(LoopEnd end) const {
+    if (end == LoopEnd::exact && next_ > size_) raise(failure_, offset());
+  }
+
+  /// How many descriptors of the next one's tag follow each other from here.
+  std::size_t run() const {
+    std::size_t found = 0;
+    int const end = std::min(size_, limit_);
+    for (int at = next_; end - at >= 2 && first_[at] == first_[next_]; at += 2 + first_[at + 1]) ++found;
+    return found;
+  }
+  /// How many such runs there are.
+  std::size_t runs() const {
+    std::size_t found = 0;
+    int const end = std::min(size_, limit_);
+    int tag = -1;
+    for (int at = next_; end - at >= 2; at += 2 + first_[at + 1]) {
+      found += first_[at] != tag ? 1u : 0u;
+      tag = first_[at];
+    }
+    return found;
+  }
+
+ private:
+  bool fits(int at, int end) const { return end - at >= 2 && end - at - 2 >= first_[at + 1]; }
+  int offset() const { return begin_ < 0 ? -1 : begin_ + last_; }
+
+  unsigned char const* first_;
+  int next_ = 0;  // where the next one begins
+  int last_ = 0;  // where the last one that was asked for did
+  int size_;
+  int limit_;
+  Failure failure_;
+  int begin_;
+};
+
+}  // namespace sivane
