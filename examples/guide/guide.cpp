@@ -25,11 +25,14 @@ class Receiver final : public sivane::DemuxPush {
 
  protected:
   void on_psi_section(int pid, int table_id, int, unsigned char const* section) override {
-    if (table_id == 0x00) {
-      follow_programs(section);
-    } else {
-      ++program_maps;
-      std::cout << "program map on PID " << pid << '\n';
+    try {
+      if (table_id == 0x00) {
+        follow_programs(section);
+      } else {
+        print_streams(section);
+      }
+    } catch (sivane::error const& failure) {
+      std::cerr << "PID " << pid << ", byte " << failure.offset << ": " << failure.what() << '\n';
     }
   }
 
@@ -39,6 +42,14 @@ class Receiver final : public sivane::DemuxPush {
     pat.Parse(section);
     for (sivane::Pat::program_info const& program : pat.program_infos) {
       if (program.program_number != 0) add_psi_handler(program.program_map_pid, 0x02);
+    }
+  }
+  void print_streams(unsigned char const* section) {
+    sivane::Pmt pmt;
+    pmt.Parse(section);
+    ++program_maps;
+    for (sivane::PmtStreamInfo const& stream : pmt.stream_infos) {
+      std::cout << "stream type " << stream.stream_type << " on PID " << stream.elementary_pid << '\n';
     }
   }
 };
@@ -82,13 +93,42 @@ class ServiceNames final : public sivane::DemuxPush {
   std::map<int, std::string> names;  // by service_id
 
  protected:
-  void on_psi_section(int, int, int, unsigned char const* section) override {
-    sivane::Sdt sdt;
-    sdt.Parse(section);
-    for (sivane::Sdt::Service_info const& service : sdt.service_infos) {
-      for (sivane::DescriptorService const& descriptor : service.get_service_descriptors()) {
-        names[service.service_id] = descriptor.service_name;
+  void on_psi_section(int pid, int, int, unsigned char const* section) override {
+    try {
+      sivane::Sdt sdt;
+      sdt.Parse(section);
+      for (sivane::Sdt::Service_info const& service : sdt.service_infos) {
+        for (sivane::DescriptorService const& descriptor : service.get_service_descriptors()) {
+          names[service.service_id] = descriptor.service_name;
+        }
       }
+    } catch (sivane::error const& failure) {
+      std::cerr << "PID " << pid << ": " << failure.what() << '\n';
+    }
+  }
+};
+
+// Events
+
+class PresentEvents final : public sivane::DemuxPush {
+ public:
+  PresentEvents() { add_psi_handler(0x0012, 0x4E); }
+
+  std::map<int, std::string> names;  // by service_id
+
+ protected:
+  void on_psi_section(int pid, int, int section_number, unsigned char const* section) override {
+    if (section_number != 0) return;  // 1 is the following event
+    try {
+      sivane::Eit eit;
+      eit.Parse(section);
+      for (sivane::Eit::EventInfo const& event : eit.event_infos) {
+        for (sivane::DescriptorShortEvent const& descriptor : event.get_short_event_descriptors()) {
+          names[eit.context_id] = descriptor.event_name;
+        }
+      }
+    } catch (sivane::error const& failure) {
+      std::cerr << "PID " << pid << ": " << failure.what() << '\n';
     }
   }
 };
@@ -138,13 +178,15 @@ int main(int argc, char** argv) {
   Receiver receiver;
   EventCounter events;
   ServiceNames services;
-  bool const whole = receiver.push_data(stream.data(), size) == 0 &&
-                     events.push_data(stream.data(), size) == 0 &&
-                     services.push_data(stream.data(), size) == 0;
+  PresentEvents present;
+  bool const whole =
+      receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0 &&
+      services.push_data(stream.data(), size) == 0 && present.push_data(stream.data(), size) == 0;
   std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections\n";
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
   for (auto const& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
+  for (auto const& [id, name] : present.names) std::cout << "now on " << id << ": " << name << '\n';
 
   sivane::Pat pat;
   pat.program_infos.resize(2);
@@ -156,6 +198,7 @@ int main(int argc, char** argv) {
   sivane::init();
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  bool const found = receiver.program_maps > 0 && events.sections > 0 && !services.names.empty();
+  bool const found =
+      receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() && !present.names.empty();
   return whole && found && survives ? 0 : 1;
 }

@@ -24,7 +24,12 @@ class Host final : public sivane::DemuxIstream {
 };
 
 int main(int argc, char** argv) {
-  std::ifstream file(argc > 1 ? argv[1] : "", std::ios::binary);
+  char const* const name = argc > 1 ? argv[1] : "";
+  std::ifstream file(name, std::ios::binary);
+  if (!file) {
+    std::cerr << "cannot open " << name << '\n';
+    return 1;
+  }
   Host host(file);
   return host.start() == 1 ? 0 : 1;
 }
