@@ -30,15 +30,15 @@ struct PidCounters {
 
 /// A jump of the continuity_counter of a PID.
 struct Gap {
-  int pid;
+  int pid;               ///< 13 bits
   int missing;           ///< packets that are missing at least, 1 to 15
-  std::uint64_t offset;  ///< of the packet behind the gap, as `Demux::packet_offset`
+  std::uint64_t offset;  ///< of the packet after the gap, as `Demux::packet_offset`
 };
 
 /// Is told of gaps. A host may derive from it beside its driver.
 class GapListener {
  public:
-  /// Called once for each gap, before the sections of the packet behind it.
+  /// Called once for each gap, before the sections of the packet after it.
   virtual void on_gap(Gap const& gap) = 0;
 
  protected:

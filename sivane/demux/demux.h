@@ -20,16 +20,12 @@ namespace sivane {
 /// How the payloads of a PID become sections.
 enum class Reassembly {
   /// The first section that starts in each packet. Error, scrambling and continuity bits are not looked at: a
-  /// lost
-  /// packet shows up as a wrong CRC in the section that it was part of.
+  /// lost packet shows up as a wrong CRC in the section that it was part of.
   first_start,
   /// All sections, as ISO/IEC 13818-1, 2.4.4 has them: any number in a packet, up to stuffing bytes 0xFF.
-  /// Packets
-  /// with transport_error_indicator and scrambled payloads are not read, a repeated packet counts once, and a
-  /// gap
-  /// in the continuity_counter drops the section that it cuts. Table ids that nobody has asked for are
-  /// stepped
-  /// over.
+  /// Packets with transport_error_indicator and scrambled payloads are not read, a repeated packet counts
+  /// once, and a gap in the continuity_counter drops the section that it cuts. Table ids that nobody has
+  /// asked for are stepped over.
   every_section,
 };
 
@@ -83,11 +79,14 @@ class SIVANE_API Demux {
   /// What takes the payloads of one PID.
   class SIVANE_API BaseHandler {
    public:
+    /// `owner` gets the sections.
     explicit BaseHandler(Demux& owner) : demux(owner) {}
+    /// Takes a payload; `start` where a section starts in it.
     virtual void parse(TSHeader const& header, bool start, unsigned char const* data, int size) = 0;
+    /// Prints its lines.
     virtual void dump_state(std::ostream& os) const;
 
-    Demux& demux;
+    Demux& demux;  ///< whose hooks are called
 
    protected:
     ~BaseHandler() = default;
@@ -95,18 +94,19 @@ class SIVANE_API Demux {
 
   /// Bytes as they arrive become a section (ISO/IEC 13818-1, 2.4.4).
   struct SIVANE_API SectionBuffer {
-    static constexpr int capacity = 8192;
+    static constexpr int capacity = 8192;  ///< bytes
 
     /// Takes a payload. True if the section is complete now; `close` follows its delivery.
     bool take(bool start, unsigned char const* data, int size);
+    /// Makes room for the next section.
     void close();
     /// The whole size that the header claims, 3 to 4098.
     int need() const { return ((section[1] & 0xF) << 8 | section[2]) + 3; }
 
-    unsigned char section[capacity] = {};
-    int section_size = 0;        ///< bytes held
-    bool in_section = false;     ///< a section has started and is not yet delivered
-    std::uint64_t began_at = 0;  ///< `packet_offset` of the packet in which it has started
+    unsigned char section[capacity] = {};  ///< from its table id on
+    int section_size = 0;                  ///< bytes held
+    bool in_section = false;               ///< a section has started and is not yet delivered
+    std::uint64_t began_at = 0;            ///< `packet_offset` of the packet in which it has started
   };
 
   Demux();
@@ -129,17 +129,18 @@ class SIVANE_API Demux {
   /// Drops the handler of `table_id` on `pid`, if there is one. If `pid` has none left then, its filters go
   /// too: on a PID of filters alone any `table_id` drops them all. No other call drops a filter but `reset`.
   void remove_psi_handler(int pid, int table_id);
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
 
   /// Chooses how sections are assembled from the next packet on; those in progress are dropped. With
   /// `Reassembly::every_section`:
   /// - A hook that throws loses its own section and nothing else: the first exception leaves when the packet
-  /// is
-  ///   dealt with, that of `push_data` and `push_packets` when the buffer is.
+  ///   is dealt with, that of `push_data` and `push_packets` when the buffer is.
   /// - The section that a table id hook gets may lie in the packet itself and has its own bytes alone; its
   ///   `section_number` is 0 where it has less than 7.
   /// - Handlers keep no bytes in their own buffers; each PID takes 5 KiB more, the object 64 KiB.
   void set_reassembly(Reassembly mode);
+  /// As `set_reassembly` left it.
   Reassembly reassembly() const { return reassembly_; }
 
   /// Counts what arrives on `pid` from now on, whether it has handlers or not. Works in both modes.
@@ -149,13 +150,13 @@ class SIVANE_API Demux {
   /// What was counted on `pid`, null if nobody has asked for it; it stays where it is as long as this object
   /// does. With `Reassembly::every_section` the PIDs that have handlers are counted unasked.
   PidCounters const* counters(int pid) const;
-  /// For hosts that check the CRC, so that it stands among the counters of `pid`.
+  /// For hosts that check the CRC, so that it is among the counters of `pid`.
   void report_crc_failure(int pid);
   /// Is told of the gaps on all PIDs that are counted; null for nobody. It must outlive this object.
   void set_gap_listener(GapListener* listener) { gap_listener_ = listener; }
 
-  /// Where the packet that is looked at, or was looked at last, stands in the input: bytes from the start of
-  /// the first packet. What `push_packets` takes stands where its runs say.
+  /// Where the packet that is looked at, or was looked at last, is in the input: bytes from the start of
+  /// the first packet. What `push_packets` takes is where its runs say.
   std::uint64_t packet_offset() const { return packet_offset_; }
   /// For section hooks: the same for the packet in which the section began.
   std::uint64_t section_offset() const { return section_offset_; }
@@ -172,9 +173,11 @@ class SIVANE_API Demux {
 
   /// Fills `buffer` and sets `got`. False when no further read makes sense.
   virtual bool read_buf(unsigned char* buffer, int size, int& got) = 0;
+  /// The end of a pass of `Demux2`.
   virtual void idle();
   /// Each packet of a pull driver, before its sync byte is looked at.
   virtual void on_raw_ts_packet(unsigned char const* packet);
+  /// Each packet that begins with 0x47; `after_header` is its byte 4.
   virtual void on_ts_packet(TSHeader const& header, unsigned char const* after_header);
   /// `after_field` is at most the packet's end, whatever the field's length byte claims.
   virtual void on_adaption_field_header_(AdaptionFieldHeader const& field, unsigned char const* after_field);
@@ -213,7 +216,7 @@ class SIVANE_API Demux {
   void pass_failure() {
     if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
   }
-  /// Shows the packet to the hooks. What is left of it behind header and adaptation field is its payload.
+  /// Shows the packet to the hooks. What is left of it after header and adaptation field is its payload.
   struct Payload {
     unsigned char const* data;
     int size;  ///< 0 to 184
@@ -252,13 +255,16 @@ class SIVANE_API Demux {
 /// Assembles the sections of one table id on one PID.
 class SIVANE_API Demux::PSIHandler final : public BaseHandler, public SectionBuffer {
  public:
+  /// For the sections of table id `id`.
   PSIHandler(Demux& owner, int id);
+  /// Takes a payload, and delivers the section that it completes.
   void parse(TSHeader const& header, bool start, unsigned char const* data, int size) override;
+  /// Prints its lines.
   void dump_state(std::ostream& os) const override;
   /// Drops the partial section; its continuation packets are ignored until the next start.
   void invalidate();
 
-  int table_id;
+  int table_id;  ///< 8 bits
 
  private:
   friend class Demux;
@@ -271,11 +277,13 @@ class SIVANE_API Demux::PSIHandler final : public BaseHandler, public SectionBuf
 /// Assembles every section on one PID and delivers those that its byte filter lets through.
 class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public SectionBuffer {
  public:
+  /// For the sections that the filter lets through; nothing is copied.
   PSIFilterHandler(Demux& owner, unsigned char const* filter_value, unsigned char const* filter_mask,
                    int filter_size, unsigned long filter_id);
+  /// Takes a payload, and delivers the section that it completes.
   void parse(TSHeader const& header, bool start, unsigned char const* data, int size) override;
   /// Compares the section from its table id on, the length bytes included, and what the last packet brought
-  /// behind it. Bytes that were not brought match only where neither `mask` nor `value` has a bit.
+  /// after it. Bytes that were not brought match only where neither `mask` nor `value` has a bit.
   bool filter_match() const;
 
   unsigned char const* mask;   ///< the host's storage
@@ -292,6 +300,7 @@ class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public Sect
 /// The handlers of one PID.
 class SIVANE_API Demux::PidHandler {
  public:
+  /// Without handlers.
   explicit PidHandler(Demux& owner);
   PidHandler(PidHandler const&) = delete;
   PidHandler& operator=(PidHandler const&) = delete;
@@ -300,18 +309,22 @@ class SIVANE_API Demux::PidHandler {
   /// Takes the payload of one packet. Nothing outside its `size` bytes is read; a payload without a byte, and
   /// one whose pointer_field leads out of it, is ignored.
   void parse(TSHeader& header, unsigned char const* data, int size);
+  /// As `Demux::add_psi_handler`.
   void AddPsiHandler(int table_id);
+  /// As `Demux::add_psi_handler` of a filter.
   void AddPsiHandler(unsigned char const* value, unsigned char const* mask, int size, unsigned long id);
+  /// As `Demux::remove_psi_handler`, but that the PID stays.
   void RemovePsiHandler(int table_id);
   /// Drops the partial sections of the table id handlers; filters keep theirs. With
   /// `Reassembly::every_section` it drops the section in progress.
   void invalidate();
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
 
   std::map<int, PSIHandler*> psi_handlers;      ///< by table id; owned
   std::set<PSIFilterHandler*> filter_handlers;  ///< owned; delivery goes in the order of the pointers
-  Demux& demux;
-  PSIHandler* current = nullptr;  ///< takes the continuation packets
+  Demux& demux;                                 ///< whose hooks are called
+  PSIHandler* current = nullptr;                ///< takes the continuation packets
 
  private:
   friend class Demux;
@@ -344,6 +357,7 @@ class SIVANE_API DemuxPush : public Demux {
 /// The pull driver on a standard input stream, which must outlive the object.
 class SIVANE_API DemuxIstream : public Demux {
  public:
+  /// Reads from `source`, whose position is the first packet.
   explicit DemuxIstream(std::istream& source) : stream_(source) {}
 
  protected:
@@ -370,7 +384,9 @@ class SIVANE_API Demux2 : public Demux {
   ~Demux2() = default;
   using Demux::read_buf;
 
+  /// True ends the run.
   virtual bool end_of_input() = 0;
+  /// Gives a packet of the PID; false where there is none at hand.
   virtual bool read_buf(int pid, unsigned char* buffer, int size, int& got) = 0;
 
  private:

@@ -15,7 +15,7 @@ struct PacketRun {
   unsigned char const* first;  ///< the sync byte of the first packet
   int count;                   ///< how many packets
   int stride;                  ///< bytes from one sync byte to the next: 188, 192 or 204
-  std::uint64_t offset;  ///< where the first packet stands in its stream, in bytes from the stream's start
+  std::uint64_t offset;        ///< where the first packet is in its stream, in bytes from the stream's start
 };
 
 }  // namespace sivane

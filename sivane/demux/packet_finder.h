@@ -37,6 +37,7 @@ class SIVANE_API PacketFinder {
 
   /// Bytes from one packet to the next: 188, 192 or 204 once it was found, 0 before.
   int stride() const { return stride_; }
+  /// Whether packets are being found.
   bool in_sync() const { return in_sync_; }
   /// Of the byte that is expected next, counted from the first one pushed.
   std::uint64_t next_offset() const { return held_offset_ + held_; }

@@ -21,7 +21,7 @@ class Reception {
   };
 
   explicit Reception(int pid) : has_continuity_(pid != null_pid) {}
-  /// Takes a packet of 188 bytes that stands at `offset`.
+  /// Takes a packet of 188 bytes that is at `offset`.
   Arrival take(unsigned char const* packet, std::uint64_t offset);
 
   PidCounters counters;

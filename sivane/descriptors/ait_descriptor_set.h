@@ -13,7 +13,7 @@
 namespace sivane {
 
 /// The descriptors of an AIT, filed by the tags of their own space: one vector for each class of 0x00 to
-/// 0x0D, one for 0x0E to 0x7F and one for 0x80 to 0xFF. In all else like `DescriptorSet`; the rows stand in
+/// 0x0D, one for 0x0E to 0x7F and one for 0x80 to 0xFF. In all else like `DescriptorSet`; the rows are in
 /// ait_descriptor_rows.inc.
 class SIVANE_API AitDescriptorSet {
  public:

@@ -18,10 +18,13 @@ class SIVANE_API DescriptorBase {
   virtual void dump_state(std::ostream& os) const;
   /// The descriptor's name; a literal of the dumps, odd spellings included.
   virtual char const* get_tag_text() const = 0;
+  /// The part of `SaveSection` that the class adds.
   virtual bool _save_section(void* document, void* element) const = 0;
+  /// The lines that the class adds to a dump.
   virtual void _dump_state(std::ostream& os) const = 0;
   /// Empties the variable part where the class has one that can be; fixed members, `tag` and `length` stay.
   virtual void _reset() = 0;
+  /// The part of `Parse` that the class adds.
   virtual void _parse(void* node) = 0;
 
   /// Loads tag, length and what the class carries from the descriptor's element. Throws `error` where a part
@@ -31,10 +34,11 @@ class SIVANE_API DescriptorBase {
   bool SaveSection(void* document, void* element) const;
 
   int tag = 0;     ///< descriptor_tag, 8 bits
-  int length = 0;  ///< descriptor_length, 8 bits: the body bytes behind it
+  int length = 0;  ///< descriptor_length, 8 bits: the bytes of the body
 
  protected:
   DescriptorBase() = default;
+  /// Takes tag and length alone.
   explicit DescriptorBase(DescriptorBytes descriptor) : tag(descriptor.tag()), length(descriptor.length()) {}
   DescriptorBase(DescriptorBase const&) = default;
   DescriptorBase(DescriptorBase&&) = default;
@@ -47,18 +51,30 @@ class SIVANE_API DescriptorBase {
 /// byte as well, takes any tag, and throws `error` as the class's comment says; where the comment names no
 /// failure, "too little data" is the only one. Each class says next to this what it prints and what `_reset`
 /// empties.
-#define SIVANE_DESCRIPTOR(Class)                                    \
-  Class() = default;                                                \
-  explicit Class(DescriptorBytes descriptor);                       \
-  char const* get_tag_text() const override;                        \
-  bool _save_section(void* document, void* element) const override; \
+#define SIVANE_DESCRIPTOR(Class)                                                                          \
+  Class() = default;                                                                                      \
+  /** From the bytes of one, whatever its tag. Throws `error` as the class says, or "too little data". */ \
+  explicit Class(DescriptorBytes descriptor);                                                             \
+  char const* get_tag_text() const override;                                                              \
+  bool _save_section(void* document, void* element) const override;                                       \
   void _parse(void* node) override;
+
+/// Declares what every record of a descriptor has.
+#define SIVANE_RECORD(Class)                                                                  \
+  Class() = default;                                                                          \
+  /** From where the reader is, and steps over it. Throws `error` as the descriptor says. */  \
+  explicit Class(Reader& reader);                                                             \
+  /** Loads it from its element. Throws `error` where an attribute or child is missing. */    \
+  void Parse(void* node);                                                                     \
+  /** Saves it on its element, which `document` has made. False once the document refuses. */ \
+  bool SaveSection(void* document, void* element) const;
 
 /// The first two bytes of any descriptor, as an overlay.
 struct descriptor_base {
-  unsigned char tag;
-  unsigned char length;
+  unsigned char tag;     ///< descriptor_tag
+  unsigned char length;  ///< bytes that follow
 };
+/// The same bytes without the overlay.
 inline unsigned char const* bytes_of(descriptor_base const* descriptor) {
   return reinterpret_cast<unsigned char const*>(descriptor);
 }
@@ -69,6 +85,7 @@ class SIVANE_API DescriptorGeneral final : public DescriptorBase {
   SIVANE_DESCRIPTOR(DescriptorGeneral)
   void _dump_state(std::ostream& os) const override;
   void _reset() override { data.clear(); }
+  /// From the bytes that the overlay lies on.
   explicit DescriptorGeneral(descriptor_base const* descriptor);
   /// For a host that builds one by hand; with a length below 1 `data` stays empty.
   DescriptorGeneral(int descriptor_tag, unsigned char const* bytes, int descriptor_length);

@@ -13,9 +13,13 @@ namespace sivane {
 class SIVANE_API DescriptorGroups {
  public:
   DescriptorGroups() noexcept = default;
+  /// Copies every descriptor.
   DescriptorGroups(DescriptorGroups const& other) : DescriptorGroups() { copy(other); }
+  /// Leaves `other` empty.
   DescriptorGroups(DescriptorGroups&& other) noexcept : block_(std::exchange(other.block_, nullptr)) {}
+  /// Copies every descriptor; where memory runs out nothing has changed.
   DescriptorGroups& operator=(DescriptorGroups const& other) { return *this = DescriptorGroups(other); }
+  /// Leaves `other` empty.
   DescriptorGroups& operator=(DescriptorGroups&& other) noexcept {
     DescriptorGroups taken(std::move(other));
     std::swap(block_, taken.block_);

@@ -19,7 +19,7 @@
 namespace sivane {
 
 /// Descriptors filed by tag: one vector for each class, one for the other tags below 0x80 and one for those
-/// from 0x80 on. Which classes there are, and under which getters, stands in descriptor_rows.inc.
+/// from 0x80 on. Which classes there are, and under which getters, is in descriptor_rows.inc.
 ///
 /// Order within a vector is order of appearance; a repeated tag gives a further element. Only what was filed
 /// is paid for: an empty set is one null pointer. A class that owns descriptors derives from this one.

@@ -174,6 +174,7 @@ DescriptorPDC::DescriptorPDC(DescriptorBytes d) : DescriptorBase(d) {
   programme_identification_label = r.bits(20);
 }
 
+// A literal of stored dumps, as it is.
 char const* DescriptorPDC::get_programme_identification_label_text() const { return "to be implemented"; }
 
 // multilingual_component_descriptor

@@ -32,6 +32,7 @@ DescriptorVideoStream::DescriptorVideoStream(VIDEO_STREAM_desc const* descriptor
   tag = 2;
 }
 
+// A literal of stored dumps, as it is.
 void DescriptorVideoStream::_dump_state(std::ostream& os) const { os << "TO IMPLEMENT!!!" << std::endl; }
 
 // audio_stream_descriptor

@@ -15,7 +15,8 @@ namespace sivane {
 /// A video stream descriptor's bytes, as an overlay.
 struct VIDEO_STREAM_desc : descriptor_base {};
 
-/// Coding parameters of a video elementary stream (2.6.2).
+/// Coding parameters of a video elementary stream (2.6.2). Of them a dump prints "TO IMPLEMENT!!!" and no
+/// more: dumps that were stored say so.
 class SIVANE_API DescriptorVideoStream final : public DescriptorBase {
  public:
   SIVANE_DESCRIPTOR(DescriptorVideoStream)
@@ -24,16 +25,16 @@ class SIVANE_API DescriptorVideoStream final : public DescriptorBase {
   /// Stores the tag 2, whatever the first byte says.
   explicit DescriptorVideoStream(VIDEO_STREAM_desc const* descriptor);
 
-  bool multiple_frame_rate_flag = false;
-  int frame_rate_code = 0;  ///< 4 bits
-  bool MPEG_1_only_flag = false;
-  bool constrained_parameter_flag = false;
-  bool still_picture_flag = false;
+  bool multiple_frame_rate_flag = false;    ///< 1 bit
+  int frame_rate_code = 0;                  ///< 4 bits
+  bool MPEG_1_only_flag = false;            ///< 1 bit
+  bool constrained_parameter_flag = false;  ///< 1 bit
+  bool still_picture_flag = false;          ///< 1 bit
   // The rest is there only without MPEG_1_only_flag.
-  int profile_and_level_indication = 0;  ///< 8 bits
-  int chroma_format = 0;                 ///< 2 bits
-  bool frame_rate_extension_flag = false;
-  int reserved = 0;  ///< 5 bits
+  int profile_and_level_indication = 0;    ///< 8 bits
+  int chroma_format = 0;                   ///< 2 bits
+  bool frame_rate_extension_flag = false;  ///< 1 bit
+  int reserved = 0;                        ///< 5 bits
 };
 
 /// Coding parameters of an audio elementary stream (2.6.4).
@@ -55,6 +56,7 @@ class SIVANE_API DescriptorHierarchy final : public DescriptorBase {
   SIVANE_DESCRIPTOR(DescriptorHierarchy)
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
+  /// The text of `hierarchy_type`.
   char const* get_hierchy_type_string() const;
 
   int hierarchy_type = 0;                  ///< 4 bits
@@ -70,8 +72,8 @@ class SIVANE_API DescriptorRegistration final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  unsigned int format_identifier = 0;  ///< 32 bits
-  std::vector<unsigned char> additional_identification_info;
+  unsigned int format_identifier = 0;                         ///< 32 bits
+  std::vector<unsigned char> additional_identification_info;  ///< raw
 };
 
 /// What access units begin with (2.6.10).
@@ -80,6 +82,7 @@ class SIVANE_API DescriptorDataStreamAlignment final : public DescriptorBase {
   SIVANE_DESCRIPTOR(DescriptorDataStreamAlignment)
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
+  /// The text of `alignment_type`.
   char const* get_alignment_type_string() const;
 
   int alignment_type = 0;  ///< 8 bits
@@ -104,7 +107,7 @@ class SIVANE_API DescriptorVideoWindow final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  int horizonal_offset = 0;  ///< 14 bits
+  int horizonal_offset = 0;  ///< 14 bits; spelt as in stored documents
   int vertical_offset = 0;   ///< 14 bits
   int window_priority = 0;   ///< 4 bits
 };
@@ -116,11 +119,12 @@ class SIVANE_API DescriptorCa final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { private_bytes.clear(); }
   char const* get_ca_provider1() const;  ///< by the high byte of `sys_id`
+  /// Appends to `private_bytes`.
   void add_private_byte(unsigned char byte);
 
-  int sys_id = 0;  ///< CA_system_ID, 16 bits
-  int pid = 0;     ///< CA_PID, 13 bits
-  std::vector<unsigned char> private_bytes;
+  int sys_id = 0;                            ///< CA_system_ID, 16 bits
+  int pid = 0;                               ///< CA_PID, 13 bits
+  std::vector<unsigned char> private_bytes;  ///< what follows, raw
 };
 
 /// An ISO 639 language descriptor's bytes, as an overlay.
@@ -129,12 +133,11 @@ struct ISO_639_LANGUAGE_desc : descriptor_base {};
 /// Languages of a stream (2.6.18). Throws "descriptor length mismatch" unless the length is 4n.
 class SIVANE_API DescriptorISO639Language final : public DescriptorBase {
  public:
+  /// One language.
   class SIVANE_API ISO639Lang {
    public:
-    ISO639Lang() = default;
-    explicit ISO639Lang(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(ISO639Lang)
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero
@@ -147,7 +150,7 @@ class SIVANE_API DescriptorISO639Language final : public DescriptorBase {
   /// Stores the tag 10, whatever the first byte says.
   explicit DescriptorISO639Language(ISO_639_LANGUAGE_desc const* descriptor);
 
-  std::vector<ISO639Lang> language_vector;
+  std::vector<ISO639Lang> language_vector;  ///< in the order of the descriptor
 };
 
 /// The clock that time stamps come from (2.6.20).
@@ -158,8 +161,9 @@ class SIVANE_API DescriptorSystemClock final : public DescriptorBase {
   void _reset() override {}
 
   int external_clock_reference_indicator = 0;  ///< 1 bit
-  int clock_acuracy_integer = 0;               ///< 6 bits, parts per million times 10^-exponent
-  int clock_acuracy_exponent = 0;              ///< 3 bits
+  int clock_acuracy_integer =
+      0;  ///< 6 bits; spelt as in stored documents; parts per million times 10^-exponent
+  int clock_acuracy_exponent = 0;  ///< 3 bits; spelt likewise
 };
 
 /// Bounds on the occupancy of a remultiplexer's buffer (2.6.22).
@@ -181,8 +185,8 @@ class SIVANE_API DescriptorCopyright final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { additional_copyright_info.clear(); }
 
-  int copyright_identifier = 0;  ///< 32 bits
-  std::vector<unsigned char> additional_copyright_info;
+  int copyright_identifier = 0;                          ///< 32 bits
+  std::vector<unsigned char> additional_copyright_info;  ///< raw
 };
 
 /// An upper bound of the bitrate (2.6.26).
@@ -257,7 +261,7 @@ class SIVANE_API DescriptorCarouselId final : public DescriptorBase {
   unsigned long originalsize = 0;  ///< 32 bits
   int timeout = 0;                 ///< 8 bits, in seconds
   int objectkeylength = 0;         ///< 8 bits
-  std::string objectkeydata;
+  std::string objectkeydata;       ///< `objectkeylength` bytes, raw
 };
 
 /// A stream's name within a DSM-CC service (ISO/IEC 13818-6). Throws `length_error`
@@ -269,13 +273,13 @@ class SIVANE_API DescriptorAssociationTag final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  int association_tag = 0;                   ///< 16 bits
-  int use = 0;                               ///< 16 bits
-  int selector_length = 0;                   ///< 8 bits
-  unsigned long transaction_id = 0;          ///< 32 bits, with `use` 0
-  unsigned long timeout = 0;                 ///< 32 bits, with `use` 0
-  std::vector<unsigned char> selector_byte;  ///< with a `use` above 1
-  std::vector<unsigned char> private_data_byte;
+  int association_tag = 0;                       ///< 16 bits
+  int use = 0;                                   ///< 16 bits
+  int selector_length = 0;                       ///< 8 bits
+  unsigned long transaction_id = 0;              ///< 32 bits, with `use` 0
+  unsigned long timeout = 0;                     ///< 32 bits, with `use` 0
+  std::vector<unsigned char> selector_byte;      ///< with a `use` above 1
+  std::vector<unsigned char> private_data_byte;  ///< raw
 };
 
 }  // namespace sivane

@@ -25,12 +25,11 @@ class SIVANE_API DescriptorNetworkName final : public DescriptorBase {
 /// Services by id and type (6.2.35). Throws "descriptor length mismatch" unless the length is 3n.
 class SIVANE_API DescriptorServiceList final : public DescriptorBase {
  public:
+  /// One service.
   class SIVANE_API ServiceList {
    public:
-    ServiceList() = default;
-    explicit ServiceList(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(ServiceList)
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int service_id = 0;    ///< 16 bits
@@ -41,7 +40,7 @@ class SIVANE_API DescriptorServiceList final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override {}
 
-  std::vector<ServiceList> servicelist;
+  std::vector<ServiceList> servicelist;  ///< in the order of the descriptor
 };
 
 /// Bytes without a meaning (6.2.40).
@@ -51,7 +50,7 @@ class SIVANE_API DescriptorStuffing final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { stuffing_byte.clear(); }
 
-  std::vector<unsigned char> stuffing_byte;
+  std::vector<unsigned char> stuffing_byte;  ///< raw
 };
 
 /// Where a satellite transponder is (6.2.13.2). Its dump leaves the stream decimal.
@@ -60,9 +59,13 @@ class SIVANE_API DescriptorSatelliteDeliverySystem final : public DescriptorBase
   SIVANE_DESCRIPTOR(DescriptorSatelliteDeliverySystem)
   void _dump_state(std::ostream& os) const override;
   void _reset() override {}
+  /// The text of `polarization`.
   char const* get_polarization_text() const;
+  /// The text of `modulation`.
   char const* get_modulation_text() const;
+  /// The text of `FEC_inner`.
   char const* get_FEC_inner_text() const { return get_FEC_inner_text(FEC_inner); }
+  /// The text of a FEC_inner of 4 bits.
   static char const* get_FEC_inner_text(int fec);
 
   double frequency = 0;         ///< GHz, 8 BCD digits
@@ -112,6 +115,7 @@ class SIVANE_API DescriptorFrequencyList final : public DescriptorBase {
   SIVANE_DESCRIPTOR(DescriptorFrequencyList)
   void _dump_state(std::ostream&) const override {}
   void _reset() override { centre_frequency.clear(); }
+  /// The text of `coding_type`.
   char const* get_coding_type_text() const;
 
   int coding_type = 0;                          ///< 2 bits: what kind of frequencies these are
@@ -126,7 +130,7 @@ class SIVANE_API DescriptorMultilingualNetworkName final : public DescriptorBase
   void _dump_state(std::ostream& os) const override;
   void _reset() override { nameinfo.clear(); }
 
-  std::vector<MultilingualNameInfo> nameinfo;
+  std::vector<MultilingualNameInfo> nameinfo;  ///< in the order of the descriptor
 };
 
 }  // namespace sivane

@@ -29,6 +29,7 @@ class SIVANE_API DescriptorService final : public DescriptorBase {
   SIVANE_DESCRIPTOR(DescriptorService)
   void _dump_state(std::ostream& os) const override;
   void _reset() override {}
+  /// The text of a service_type of 8 bits.
   static char const* get_service_type_text(int type);
 
   int service_type = 0;       ///< 8 bits
@@ -66,12 +67,11 @@ class SIVANE_API DescriptorLinkage final : public DescriptorBase {
 /// length is 6n.
 class SIVANE_API DescriptorNVODReference final : public DescriptorBase {
  public:
+  /// One service.
   class SIVANE_API service {
    public:
-    service() = default;
-    explicit service(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(service)
+    /// Prints its lines.
     void _dump_state(std::ostream& os) const;
 
     int transport_stream_id = 0;  ///< 16 bits
@@ -83,7 +83,7 @@ class SIVANE_API DescriptorNVODReference final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { service_list.clear(); }
 
-  std::vector<service> service_list;
+  std::vector<service> service_list;  ///< in the order of the descriptor
 };
 
 /// The service that this one is a copy of (6.2.45).
@@ -99,12 +99,17 @@ class SIVANE_API DescriptorTimeShiftedService final : public DescriptorBase {
 /// Conditional access systems of a bouquet, service or event (6.2.5). An odd last byte is ignored.
 class SIVANE_API DescriptorCAIdentifier final : public DescriptorBase {
  public:
+  /// One CA system.
   class SIVANE_API CAIdentifierID {
    public:
     CAIdentifierID() = default;
+    /// From where the reader is, and steps over it.
     explicit CAIdentifierID(Reader& r) : CA_system_id(r.u16()) {}
+    /// Loads it from its element. Throws `error` where an attribute or child is missing.
     void Parse(void* node);
+    /// Saves it on its element, which `document` has made. False once the document refuses.
     bool SaveSection(void* document, void* element) const;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int CA_system_id = 0;  ///< 16 bits
@@ -114,7 +119,7 @@ class SIVANE_API DescriptorCAIdentifier final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { CA_system_id.clear(); }
 
-  std::vector<CAIdentifierID> CA_system_id;
+  std::vector<CAIdentifierID> CA_system_id;  ///< in the order of the descriptor
 };
 
 /// A telephone number (6.2.42).
@@ -124,18 +129,18 @@ class SIVANE_API DescriptorTelephone final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override;
 
-  int foriegn_availability = 0;            ///< 1 bit
-  int connection_type = 0;                 ///< 5 bits
-  int country_prefix_length = 0;           ///< 2 bits
-  int international_area_code_length = 0;  ///< 3 bits
-  int operator_code_length = 0;            ///< 2 bits
-  int national_area_code_length = 0;       ///< 3 bits
-  int core_number_length = 0;              ///< 4 bits
-  std::string country_prefix_char;
-  std::string international_area_code_char;
-  std::string operator_code_char;
-  std::string national_area_code_char;
-  std::string core_number_char;
+  int foriegn_availability = 0;              ///< 1 bit; spelt as in stored documents
+  int connection_type = 0;                   ///< 5 bits
+  int country_prefix_length = 0;             ///< 2 bits
+  int international_area_code_length = 0;    ///< 3 bits
+  int operator_code_length = 0;              ///< 2 bits
+  int national_area_code_length = 0;         ///< 3 bits
+  int core_number_length = 0;                ///< 4 bits
+  std::string country_prefix_char;           ///< as many characters as its length says
+  std::string international_area_code_char;  ///< as many characters as its length says
+  std::string operator_code_char;            ///< as many characters as its length says
+  std::string national_area_code_char;       ///< as many characters as its length says
+  std::string core_number_char;              ///< as many characters as its length says
 };
 
 /// The bouquet's name in several languages (6.2.22). Throws `syntax_error` where the names do not end with
@@ -146,7 +151,7 @@ class SIVANE_API DescriptorMultilingualBouquetName final : public DescriptorBase
   void _dump_state(std::ostream& os) const override;
   void _reset() override { nameinfo.clear(); }
 
-  std::vector<MultilingualNameInfo> nameinfo;
+  std::vector<MultilingualNameInfo> nameinfo;  ///< in the order of the descriptor
 };
 
 /// A service's names in several languages (6.2.25). Throws `syntax_error` where the names do not end with the
@@ -157,11 +162,10 @@ class SIVANE_API DescriptorMultilingualServiceName final : public DescriptorBase
   /// same with ":2" where the provider's name does not fit, with ":3" where the service's does not.
   class SIVANE_API MultilingualServiceNameInfo {
    public:
-    MultilingualServiceNameInfo() = default;
+    /// `size` bytes may be read at `p`; `consumed` is what it takes of them.
     MultilingualServiceNameInfo(unsigned char const* p, int size, int& consumed);
-    explicit MultilingualServiceNameInfo(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(MultilingualServiceNameInfo)
+    /// Prints its lines.
     void _dump_state(std::ostream& os) const;
 
     char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero
@@ -175,7 +179,7 @@ class SIVANE_API DescriptorMultilingualServiceName final : public DescriptorBase
   void _dump_state(std::ostream& os) const override;
   void _reset() override { servicenameinfo.clear(); }
 
-  std::vector<MultilingualServiceNameInfo> servicenameinfo;
+  std::vector<MultilingualServiceNameInfo> servicenameinfo;  ///< in the order of the descriptor
 };
 
 /// Whose private descriptors follow (6.2.31).

@@ -24,16 +24,16 @@ class SIVANE_API DescriptorStreamIdentifier final : public DescriptorBase {
 /// Teletext pages of a stream (6.2.43). Throws "descriptor length mismatch" unless the length is 5n.
 class SIVANE_API DescriptorTeletext final : public DescriptorBase {
  public:
+  /// One page.
   class SIVANE_API TeletextItem {
    public:
-    TeletextItem() = default;
-    explicit TeletextItem(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(TeletextItem)
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
+    /// The text of `teletext_type`.
     char const* get_teletext_type_text() const;
 
-    char language_code[4] = {};
+    char language_code[4] = {};        ///< three characters and a terminating zero
     int teletext_type = 0;             ///< 5 bits
     int teletext_magazine_number = 0;  ///< 3 bits, 0 is magazine 8
     int teletext_page_number = 0;      ///< 8 bits, two hexadecimal digits
@@ -43,70 +43,67 @@ class SIVANE_API DescriptorTeletext final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { teletextitems.clear(); }
 
-  std::vector<TeletextItem> teletextitems;
+  std::vector<TeletextItem> teletextitems;  ///< in the order of the descriptor
 };
 
 /// Teletext pages in the vertical blanking interval (6.2.48). Throws `item_length_error` unless the length is
 /// 5n.
 class SIVANE_API DescriptorVBITeletext final : public DescriptorBase {
  public:
+  /// One page.
   class SIVANE_API VBITeleTextData {
    public:
-    VBITeleTextData() = default;
-    explicit VBITeleTextData(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(VBITeleTextData)
+    /// Prints nothing.
     void _dump_state(std::ostream&) const {}
 
-    char ISO_639_language_code[4] = {};
-    int teletext_type = 0;             ///< 5 bits
-    int teletext_magazine_number = 0;  ///< 3 bits, 0 is magazine 8
-    int teletext_page_number = 0;      ///< 8 bits, two hexadecimal digits
+    char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero
+    int teletext_type = 0;               ///< 5 bits
+    int teletext_magazine_number = 0;    ///< 3 bits, 0 is magazine 8
+    int teletext_page_number = 0;        ///< 8 bits, two hexadecimal digits
   };
 
   SIVANE_DESCRIPTOR(DescriptorVBITeletext)
   void _dump_state(std::ostream&) const override {}
   void _reset() override { vbiteletextdata.clear(); }
 
-  std::vector<VBITeleTextData> vbiteletextdata;
+  std::vector<VBITeleTextData> vbiteletextdata;  ///< in the order of the descriptor
 };
 
 /// DVB subtitles of a stream (6.2.41). Throws `length_error` "subtitling_descriptor" unless the length is 8n.
 class SIVANE_API DescriptorSubtitling final : public DescriptorBase {
  public:
+  /// The subtitles of one language.
   class SIVANE_API SubtitlingInfo {
    public:
-    SubtitlingInfo() = default;
-    explicit SubtitlingInfo(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(SubtitlingInfo)
+    /// Prints its lines.
     void _dump_state(std::ostream& os) const;
 
-    char ISO_639_language_code[4] = {};
-    int subtitling_type = 0;      ///< 8 bits
-    int composition_page_id = 0;  ///< 16 bits
-    int antcillary_page_id = 0;   ///< 16 bits
+    char ISO_639_language_code[4] = {};  ///< three characters and a terminating zero
+    int subtitling_type = 0;             ///< 8 bits
+    int composition_page_id = 0;         ///< 16 bits
+    int antcillary_page_id = 0;          ///< 16 bits; spelt as in stored documents
   };
 
   SIVANE_DESCRIPTOR(DescriptorSubtitling)
   void _dump_state(std::ostream& os) const override;
   void _reset() override { subtitlinginfo.clear(); }
 
-  std::vector<SubtitlingInfo> subtitlinginfo;
+  std::vector<SubtitlingInfo> subtitlinginfo;  ///< in the order of the descriptor
 };
 
 /// Services in the vertical blanking interval (6.2.47). Throws `syntax_error` where they do not end with the
 /// descriptor.
 class SIVANE_API DescriptorVBIData final : public DescriptorBase {
  public:
+  /// The lines of one data service.
   class SIVANE_API VBIServiceData {
    public:
-    VBIServiceData() = default;
     /// `size` is not looked at.
     VBIServiceData(unsigned char const* p, int size, int& consumed);
-    explicit VBIServiceData(Reader& r);
-    void Parse(void* node);
-    bool SaveSection(void* document, void* element) const;
+    SIVANE_RECORD(VBIServiceData)
+    /// Prints nothing.
     void _dump_state(std::ostream&) const {}
 
     int data_service_id = 0;                 ///< 8 bits
@@ -118,7 +115,7 @@ class SIVANE_API DescriptorVBIData final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  std::vector<VBIServiceData> vbiservicedata;
+  std::vector<VBIServiceData> vbiservicedata;  ///< in the order of the descriptor
 };
 
 /// Properties of an AC-3 stream (Annex D). Members whose flag is not set stay 0.
@@ -128,15 +125,15 @@ class SIVANE_API DescriptorAC3 final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  int component_type_flag = 0;  ///< 1 bit
-  int bsid_flag = 0;            ///< 1 bit
-  int mainid_flag = 0;          ///< 1 bit
-  int asvc_flag = 0;            ///< 1 bit
-  int AC_3_type = 0;            ///< 8 bits
-  int bsid = 0;                 ///< 8 bits
-  int mainid = 0;               ///< 8 bits
-  int asvc = 0;                 ///< 8 bits
-  std::vector<unsigned char> additional_info;
+  int component_type_flag = 0;                 ///< 1 bit
+  int bsid_flag = 0;                           ///< 1 bit
+  int mainid_flag = 0;                         ///< 1 bit
+  int asvc_flag = 0;                           ///< 1 bit
+  int AC_3_type = 0;                           ///< 8 bits
+  int bsid = 0;                                ///< 8 bits
+  int mainid = 0;                              ///< 8 bits
+  int asvc = 0;                                ///< 8 bits
+  std::vector<unsigned char> additional_info;  ///< raw
 };
 
 /// Ancillary data in an audio stream (6.2.2).
@@ -156,9 +153,9 @@ class SIVANE_API DescriptorShortSmoothingBuffer final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override { DVB_reserved.clear(); }
 
-  int sb_size = 0;       ///< 2 bits
-  int sb_leak_rate = 0;  ///< 6 bits
-  std::vector<unsigned char> DVB_reserved;
+  int sb_size = 0;                          ///< 2 bits
+  int sb_leak_rate = 0;                     ///< 6 bits
+  std::vector<unsigned char> DVB_reserved;  ///< raw
 };
 
 /// A partial transport stream (6.2.30). The body is not kept.
@@ -186,7 +183,7 @@ class SIVANE_API DescriptorDSNG final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  std::vector<unsigned char> DSNG_data;
+  std::vector<unsigned char> DSNG_data;  ///< raw
 };
 
 /// Says that a stream is an MPEG-2 one, for news gathering (6.2.46).
@@ -196,7 +193,7 @@ class SIVANE_API DescriptorTransportStream final : public DescriptorBase {
   void _dump_state(std::ostream&) const override {}
   void _reset() override {}
 
-  std::vector<unsigned char> transport_stream_data;
+  std::vector<unsigned char> transport_stream_data;  ///< raw
 };
 
 }  // namespace sivane

@@ -17,7 +17,7 @@ std::string to_utf8(std::u16string_view text);
 /// The way back for valid UTF-8: control pictures become the characters that they show.
 std::u16string from_utf8(std::string_view text);
 
-/// Whether elements and attributes may be given this name: ASCII letters, digits and "_:-." behind a letter,
+/// Whether elements and attributes may be given this name: ASCII letters, digits and "_:-." after a letter,
 /// '_' or ':'. (Readers do not agree about other characters.)
 bool is_name(std::string_view text);
 

@@ -24,7 +24,7 @@ struct Tree;
 ///     pat.Parse(loaded.root_node().get());
 ///
 /// What is saved opens in every reader of XML 1.0, whatever bytes its texts hold: the control bytes 0x01 to
-/// 0x1F but tab, line feed and carriage return stand there as the control pictures U+2401 to U+241F, which
+/// 0x1F but tab, line feed and carriage return are written as the control pictures U+2401 to U+241F, which
 /// read back as the bytes; other characters that XML forbids become U+FFFD. `createElement` and
 /// `createAttribute` refuse names that are not of ASCII letters, digits and "_:-.".
 ///
@@ -38,17 +38,21 @@ class Document {
  public:
   /// Without a root element.
   Document();
+  /// The other may only be assigned to or destroyed.
   Document(Document&&) noexcept;
+  /// As the constructor.
   Document& operator=(Document&&) noexcept;
   ~Document();
 
   /// Throw `error`, with the file and the line in its text: "cannot load pat.xml: line 3: mismatched tag".
   static Document load_file(std::string const& path);
+  /// As `load_file`, with "the document" in the text.
   static Document load_string(std::string_view text);
 
   /// Throw `error` where there is no root element, where there are more levels than could be loaded, or where
   /// the file cannot be written. A document that is refused leaves the file alone.
   void save_file(std::string const& path) const;
+  /// As `save_file`.
   std::string save_string() const;
 
   /// What makes nodes. Valid as long as this object.
@@ -57,6 +61,7 @@ class Document {
   CComPtr<IXMLDOMElement> make_root(std::string const& name);
   /// The root element in both of its views. They throw `error` where there is none.
   CComPtr<IXMLDOMElement> root_element() const;
+  /// As `root_element`.
   CComPtr<IXMLDOMNode> root_node() const;
 
  private:

@@ -27,7 +27,9 @@ class ElementReader {
   /// Reads up to the root's start tag. The stream stays the host's and must outlive the reader, which reads
   /// ahead. Throws `error`, as `next` does.
   explicit ElementReader(std::istream& in);
+  /// The other may only be assigned to or destroyed.
   ElementReader(ElementReader&&) noexcept;
+  /// As the constructor.
   ElementReader& operator=(ElementReader&&) noexcept;
   ~ElementReader();
 

@@ -42,7 +42,7 @@ class Parser {
   /// Parses what was put there. False where `suspend` was called, until `resume` gives true.
   bool parse_buffer(std::size_t size, bool last);
   bool resume();
-  /// Stops behind what the content is receiving.
+  /// Stops after what the content is receiving.
   void suspend() { XML_StopParser(parser_.get(), XML_TRUE); }
   /// How many bytes of the document came before the end of what the content is receiving, modulo the type.
   unsigned long position() const;

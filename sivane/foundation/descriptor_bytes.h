@@ -15,29 +15,30 @@ class Reader;
 /// One descriptor, how far its reading may go, and where in its section it begins. A bare pointer is bounded
 /// by the descriptor's own length byte and belongs to no section.
 struct SIVANE_API DescriptorBytes {
+  /// The bytes that its length byte claims.
   DescriptorBytes(unsigned char const* descriptor)
       : first(descriptor), available(2 + descriptor[1]), offset(-1) {}
   /// `end` is where the section ends, `begin` the descriptor's offset in it, -1 for none. Throws "too little
-  /// data" where not even tag and length stand before the end.
+  /// data" where not even tag and length are before the end.
   DescriptorBytes(unsigned char const* descriptor, unsigned char const* end, int begin = -1)
       : first(descriptor), available(static_cast<int>(end - descriptor)), offset(begin) {
     if (available < 2) raise(too_little_data, begin);
   }
 
-  int tag() const { return first[0]; }
-  int length() const { return first[1]; }
+  int tag() const { return first[0]; }     ///< 8 bits
+  int length() const { return first[1]; }  ///< 8 bits, bytes of the body
   /// A reader of the body; `overrun` is thrown by a read that would pass `limit`.
   Reader body(Failure overrun = too_little_data) const;
 
-  unsigned char const* first;
-  int available;  ///< bytes from `first` on that may be read
-  int offset;     ///< bytes from the start of the section to `first`; -1 where there is none
+  unsigned char const* first;  ///< the tag
+  int available;               ///< bytes from `first` on that may be read
+  int offset;                  ///< bytes from the start of the section to `first`; -1 where there is none
 };
 
 /// Whether the last descriptor of a loop may run over the loop.
 enum class LoopEnd { open, exact };
 
-/// Descriptors one behind the other in `size` bytes. The last one may run over them, but none over the limit,
+/// Descriptors one after the other in `size` bytes. The last one may run over them, but none over the limit,
 /// which is the end of the section.
 class DescriptorLoop {
  public:
@@ -46,6 +47,7 @@ class DescriptorLoop {
   DescriptorLoop(unsigned char const* first, int size, int limit, Failure failure, int begin)
       : first_(first), size_(size), limit_(limit), failure_(failure), begin_(begin) {}
 
+  /// Whether another one starts in the loop.
   bool more() const { return next_ < size_; }
   /// The next one; throws where it passes the limit.
   DescriptorBytes next() {

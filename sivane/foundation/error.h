@@ -24,17 +24,22 @@ class SIVANE_API error : private std::exception {
     no_errorcode = -1,      ///< every other failure; `what()` is all that there is
   };
 
+  /// With a text; `value` means nothing.
   error(errorcode_enum failure_code, char const* message);
+  /// Of `no_errorcode`; `value` is 0xFFFFFFFF.
   error(char const* message);
+  /// Without a text; `number` is what `value` holds.
   error(errorcode_enum failure_code, unsigned int number = 0xFFFFFFFF);
+  /// Copies all members.
   error(error const&);
+  /// Copies all members.
   error& operator=(error const&);
   virtual ~error();
 
   /// The message, or an empty string where none was given; never null.
   virtual char const* what() const noexcept;
 
-  errorcode_enum code = no_errorcode;
+  errorcode_enum code = no_errorcode;  ///< the class of the failure
   /// 0xFFFFFFFF where `code` is all that there is, or `text` alone; of a section's header bits the low 32
   /// bits of the address of the section's first or second byte. With `length_error` it means nothing.
   unsigned int value = 0;

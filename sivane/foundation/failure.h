@@ -9,8 +9,8 @@ namespace sivane {
 
 /// What is thrown when bytes run out: a code alone, a text alone (`no_errorcode`) or both.
 struct Failure {
-  error::errorcode_enum code = error::no_errorcode;
-  char const* text = nullptr;
+  error::errorcode_enum code = error::no_errorcode;  ///< `no_errorcode` for a text alone
+  char const* text = nullptr;                        ///< a literal, or null for a code alone
 };
 /// Throws it as an `error`; `offset` is where in the section.
 [[noreturn]] SIVANE_API void raise(Failure failure, int offset = -1);

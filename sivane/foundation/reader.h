@@ -37,11 +37,17 @@ class SIVANE_API Reader {
 
   /// An unsigned field of at most 31 bits.
   int bits(int count) { return static_cast<int>(number(count)); }
+  /// A field of one bit.
   bool flag() { return number(1) != 0; }
+  /// A field of 8 bits.
   int u8() { return static_cast<int>(number(8)); }
+  /// A field of 16 bits.
   int u16() { return static_cast<int>(number(16)); }
+  /// A field of 32 bits.
   unsigned int u32() { return number(32); }
+  /// A field of 32 bits as a signed number.
   int i32() { return static_cast<int>(number(32)); }
+  /// Steps over them.
   void skip_bits(int count) { take(static_cast<std::size_t>(count)); }
   /// BCD digits, high nibble first, summed as digit times weight; a nibble above 9 counts with its value.
   double bcd(std::initializer_list<double> weights);
@@ -50,20 +56,23 @@ class SIVANE_API Reader {
 
   /// The address of the next `size` bytes, and steps over them.
   unsigned char const* raw(int size) { return at(take(bits_of(size))); }
+  /// The next `size` bytes.
   std::string string(int size) { return {reinterpret_cast<char const*>(raw(size)), count_of(size)}; }
+  /// The next `size` bytes.
   std::vector<unsigned char> bytes(int size) {
     unsigned char const* const first = raw(size);
     return {first, first + count_of(size)};
   }
   /// A length byte and that many characters.
   std::string prefixed_string() { return string(u8()); }
-  /// An ISO 639 or ISO 3166 code: three bytes, and a terminating zero behind them.
+  /// An ISO 639 or ISO 3166 code: three bytes, and a terminating zero after them.
   void code(char (&three_letters)[4]) {
     std::copy_n(raw(3), 3, three_letters);
     three_letters[3] = '\0';
   }
-  /// The bytes up to the reader's own end; none if the position is there or behind it.
+  /// The bytes up to the reader's own end; none if the position is there or after it.
   std::string rest_as_string() { return string(left()); }
+  /// As `rest_as_string`.
   std::vector<unsigned char> rest() { return bytes(left()); }
 
   /// A reader of the next `size` bytes with the same limit, and steps over them.
@@ -94,7 +103,7 @@ class SIVANE_API Reader {
     raw(size);
   }
 
-  /// Records of their own sizes up to the end, behind those that `found` has, each built from the reader and
+  /// Records of their own sizes up to the end, after those that `found` has, each built from the reader and
   /// `arguments`; throws `failure` unless the last one ends there.
   template <class Record, class... Arguments>
   void walk(std::vector<Record>& found, Failure failure, Arguments... arguments);
@@ -109,10 +118,13 @@ class SIVANE_API Reader {
   template <class Number>
   std::vector<Number> numbers(int width, Failure failure);
 
+  /// Whether bits of the reader's own are left.
   bool more() const { return position_ < end_; }
+  /// Whether a read has passed the reader's own end.
   bool past_end() const { return position_ > end_; }
   /// Whole bytes between the position and the reader's own end.
   int left() const { return more() ? static_cast<int>((end_ - position_) / 8) : 0; }
+  /// Whole bytes from the first on that were read.
   int consumed() const { return static_cast<int>(position_ / 8); }
   /// Bytes from the start of the section; -1 where there is none.
   int offset() const { return offset_at(position_); }
@@ -122,7 +134,7 @@ class SIVANE_API Reader {
   void need(int size, Failure failure) const {
     if (left() < size) fail(failure);
   }
-  /// Throws `failure` if the bytes left are no whole number of items, or the position is behind the end.
+  /// Throws `failure` if the bytes left are no whole number of items, or the position is after the end.
   void need_whole(int item_size, Failure failure) const {
     if (past_end() || left() % item_size != 0) raise(failure, offset_at(end_ - bits_of(left() % item_size)));
   }

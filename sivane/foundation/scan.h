@@ -15,7 +15,7 @@ int digit_value(char c);
 bool scan_number(char const*& text, unsigned int base, unsigned int& value);
 bool scan_number(char const*& text, unsigned int base, int& value);
 
-/// Numbers one behind the other into members, in order; those that the text does not reach keep their values.
+/// Numbers one after the other into members, in order; those that the text does not reach keep their values.
 template <class... Numbers>
 void scan_numbers(char const* text, unsigned int base, Numbers&... numbers) {
   static_cast<void>((scan_number(text, base, numbers) && ...));

@@ -21,6 +21,7 @@ class SIVANE_API Text : public std::string {
 
   /// Appends the field to what the text holds.
   void parse(unsigned char const* field, int& used);
+  /// Appends `length` bytes, but for a character table selector in front of them.
   void parse(int length, unsigned char const* data);
   /// Appends the length-prefixed field that stands next.
   void parse(Reader& reader) { parse(reader, reader.u8()); }
@@ -37,15 +38,18 @@ class SIVANE_API LengthPrefixedString {
   LengthPrefixedString() = default;
   /// `used` is the length plus 1. `size` is not looked at.
   LengthPrefixedString(unsigned char const* data, int size, int& used);
+  /// From where the reader is, and steps over it.
   explicit LengthPrefixedString(Reader& reader);
 
   /// Two lines, `label` with "_length: " and `label` with ": ".
   void dump_state(char const* label, std::ostream& os) const;
+  /// Loads it from its element. Throws `error` where an attribute or child is missing.
   void Parse(void* node);
+  /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
 
-  int length = 0;  ///< 8 bits
-  std::string value;
+  int length = 0;     ///< 8 bits
+  std::string value;  ///< as many characters as the length says
 };
 
 }  // namespace sivane

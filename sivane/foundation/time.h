@@ -19,24 +19,28 @@ namespace sivane {
 class SIVANE_API DateTime {
  public:
   DateTime() = default;
+  /// From 5 bytes.
   explicit DateTime(unsigned char const* data);
+  /// From where the reader is, and steps over it.
   explicit DateTime(Reader& reader);
 
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
   /// As an element of a document, each member an attribute.
   void Parse(void* node);
+  /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
   /// The six members as decimal numbers with a blank between, day first.
   std::string get_date_as_text() const;
   /// Reads what `get_date_as_text` writes. Members that the text does not reach stay. Always true.
   bool set_date_from_text(char const* text);
 
-  int day = 1;
-  int month = 1;  ///< 1 to 12
-  int year = 1;   ///< in full
-  int hour = 1;
-  int minute = 1;
-  int second = 1;
+  int day = 1;     ///< 1 to 31
+  int month = 1;   ///< 1 to 12
+  int year = 1;    ///< in full
+  int hour = 1;    ///< 0 to 23
+  int minute = 1;  ///< 0 to 59
+  int second = 1;  ///< 0 to 59
 };
 SIVANE_API std::ostream& operator<<(std::ostream& os, DateTime const& date);
 
@@ -44,16 +48,21 @@ SIVANE_API std::ostream& operator<<(std::ostream& os, DateTime const& date);
 class SIVANE_API Duration {
  public:
   Duration() = default;
+  /// From 3 bytes.
   explicit Duration(unsigned char const* data);
+  /// From where the reader is, and steps over it.
   explicit Duration(Reader& reader);
 
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
+  /// The three members as decimal numbers with a blank between.
   std::string get_time_as_text() const;
+  /// Reads what `get_time_as_text` writes. Members that the text does not reach stay. Always true.
   bool set_time_from_text(char const* text);
 
-  int hour = 0;
-  int minute = 0;
-  int second = 0;
+  int hour = 0;    ///< 0 to 99
+  int minute = 0;  ///< 0 to 59
+  int second = 0;  ///< 0 to 59
 };
 SIVANE_API std::ostream& operator<<(std::ostream& os, Duration const& duration);
 
@@ -61,14 +70,17 @@ SIVANE_API std::ostream& operator<<(std::ostream& os, Duration const& duration);
 class SIVANE_API TimeOffset {
  public:
   TimeOffset() = default;
+  /// From 2 bytes.
   explicit TimeOffset(unsigned char const* data);
+  /// From where the reader is, and steps over it.
   explicit TimeOffset(Reader& reader);
   /// As an element of a document, each member an attribute.
   void Parse(void* node);
+  /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
 
-  int hour = 0;
-  int minute = 0;
+  int hour = 0;    ///< 0 to 23
+  int minute = 0;  ///< 0 to 59
 };
 SIVANE_API std::ostream& operator<<(std::ostream& os, TimeOffset const& offset);
 
@@ -76,20 +88,24 @@ SIVANE_API std::ostream& operator<<(std::ostream& os, TimeOffset const& offset);
 class SIVANE_API ApplicationIdentifier {
  public:
   ApplicationIdentifier() = default;
+  /// From 6 bytes.
   explicit ApplicationIdentifier(unsigned char const* data);
+  /// From where the reader is, and steps over it.
   explicit ApplicationIdentifier(Reader& reader);
 
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
   /// As an element of a document, each member an attribute.
   void Parse(void* node);
+  /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
   /// Eight and four upper-case hexadecimal digits with a blank between.
   std::string application_identifier_as_text() const;
   /// Reads two hexadecimal numbers of either case. Members that the text does not reach stay. Always true.
   bool set_application_identifier_from_text(char const* text);
 
-  unsigned int organisation_id = 0;
-  int application_id = 0;
+  unsigned int organisation_id = 0;  ///< 32 bits
+  int application_id = 0;            ///< 16 bits
 };
 
 }  // namespace sivane

@@ -33,7 +33,7 @@ extern TraceLog trace_log;
 void log_record(int level, char const* format, ...);
 
 /// Writes one record to the trace log; level 1 is an error, 2 a warning, any other one information. Always 0.
-/// A closed gate costs a few comparisons: it stands on the path of every packet.
+/// A closed gate costs a few comparisons: it is on the path of every packet.
 template <class... Arguments>
 inline int log_write(int level, char const* format, Arguments... arguments) {
   if (trace_log.log_lock_ready != 0 || trace_log.is_open(level)) log_record(level, format, arguments...);

@@ -61,7 +61,7 @@ Run read_run(std::string_view line, std::size_t digits) {
   std::uint32_t const last = dash < ids.size() ? read_id(ids.substr(dash + 1), digits) : first;
   if (last < first) throw Bad("the run ends before it begins");
   if (last - first >= longest_run) throw Bad("the run has more than 65536 ids");
-  if (tab + 1 == line.size()) throw Bad("no name behind the tab");
+  if (tab + 1 == line.size()) throw Bad("no name after the tab");
   return {first, last, latin1(line.substr(tab + 1))};
 }
 

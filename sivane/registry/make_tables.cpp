@@ -20,7 +20,7 @@ namespace {
 
 using sivane::registry::List;
 
-/// Where each name begins among all names, one behind the other with their zero bytes.
+/// Where each name begins among all names, one after the other with their zero bytes.
 class Names {
  public:
   std::size_t offset(std::string const& name) {

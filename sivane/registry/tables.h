@@ -15,13 +15,13 @@ namespace sivane::registry {
 /// Returned by value, since a constant of this type would have to be relocated when the library is loaded.
 template <class Id>
 struct Table {
-  /// Two ascending parts, the first mostly empty. Within a part equal ids stand side by side.
+  /// Two ascending parts, the first mostly empty. Within a part equal ids are side by side.
   std::span<Id const> ids;
   /// Where the name of each row begins in `texts`.
   std::span<std::uint16_t const> names;
   /// The rows of the first part.
   std::size_t head;
-  /// Each name once, with a zero byte behind it; all registries share them.
+  /// Each name once, with a zero byte after it; all registries share them.
   char const* texts;
 
   char const* name(std::size_t row) const { return texts + names[row]; }

@@ -21,11 +21,13 @@ class SIVANE_API Bat final : public PsiTableBase, public DescriptorSet {
   class SIVANE_API Stream_info : public TransportStreamEntry {
    public:
     using TransportStreamEntry::TransportStreamEntry;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
   };
 
   SIVANE_TABLE
   bool is_valid_syntax_indicator(int indicator) const override;
+  /// `stream_infos`.
   std::vector<Stream_info> const& get_stream_infos() const { return stream_infos; }
 
   std::vector<DescriptorCa> ca_descriptors;  ///< the table's own with tag 9, which documents do not carry

@@ -16,10 +16,11 @@ namespace sivane {
 class SIVANE_API DsmCC final : public PsiTableBase {
  public:
   SIVANE_TABLE
+  /// `data`.
   std::vector<unsigned char> const& get_data() const { return data; }
   int get_table_extension() const { return context_id; }  ///< 16 bits
 
-  std::vector<unsigned char> data;  ///< what stands between the header and the CRC
+  std::vector<unsigned char> data;  ///< what is between the header and the CRC
 };
 
 }  // namespace sivane

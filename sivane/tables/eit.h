@@ -27,21 +27,26 @@ class SIVANE_API Eit final : public PsiTableBase {
     EventInfo() = default;
     /// `size` is the bytes consumed on the way out; on the way in it is not looked at.
     EventInfo(unsigned char const* data, int& size);
+    /// From where the reader is, and steps over it.
     explicit EventInfo(Reader& reader);
+    /// From its element of a document. Throws `error` where a part is missing.
     explicit EventInfo(void* node);
+    /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int event_id = 0;            ///< 16 bits
     int running_status = 0;      ///< 3 bits
     int free_CA_mode = 0;        ///< 1 bit, 1 is scrambled
     int descriptors_length = 0;  ///< 12 bits, bytes
-    DateTime start_time;
-    Duration duration;
+    DateTime start_time;         ///< UTC
+    Duration duration;           ///< hours, minutes and seconds
   };
 
   SIVANE_TABLE
   bool is_valid_syntax_indicator(int indicator) const override;
+  /// The name of a table id of the class.
   static char const* get_table_id_text(int table_id);
 
   int transport_stream_id = 0;          ///< 16 bits

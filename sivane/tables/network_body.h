@@ -10,7 +10,8 @@
 
 namespace sivane {
 
-/// Two loops, bounded by their own lengths and by the end of the section; where the CRC lies plays no part.
+/// Two loops, bounded by their own lengths and by the end of the section; where the CRC lies is of no
+/// account.
 template <class Table>
 void parse_network_body(Table& table, Reader reader) {
   constexpr int ca_tag = 0x09;

@@ -23,6 +23,7 @@ class SIVANE_API Nit final : public PsiTableBase, public DescriptorSet {
   class SIVANE_API Stream_info : public TransportStreamEntry {
    public:
     using TransportStreamEntry::TransportStreamEntry;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
   };
 

@@ -16,11 +16,13 @@ namespace sivane {
 /// Throws `length_error` "Pat parse error" unless section_length is 9 + 4n.
 class SIVANE_API Pat final : public PsiTableBase {
  public:
-  /// One program. `program_number` 0 stands like any other; its PID is that of the NIT.
+  /// One program. `program_number` 0 is an entry like any other; its PID is that of the NIT.
   class SIVANE_API program_info {
    public:
     program_info() = default;
+    /// From where the reader is, and steps over it.
     explicit program_info(Reader& reader);
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int program_number = 0;   ///< 16 bits
@@ -31,6 +33,7 @@ class SIVANE_API Pat final : public PsiTableBase {
 
   /// `index` must be below `get_program_info_size`.
   program_info const& get_program_info(int index) const;
+  /// How many programs there are.
   unsigned int get_program_info_size() const;
 
   std::vector<program_info> program_infos;  ///< in section order

@@ -14,8 +14,8 @@
 namespace sivane {
 
 /// The head of a stream entry on the wire, as an overlay.
-struct _PMT_INFO {  // NOLINT(bugprone-reserved-identifier): its name in hosts
-  unsigned char bytes[5];
+struct _PMT_INFO {         // NOLINT(bugprone-reserved-identifier): its name in hosts
+  unsigned char bytes[5];  ///< up to its descriptors
 };
 
 /// One elementary stream of a program.
@@ -25,9 +25,13 @@ class SIVANE_API PmtStreamInfo : public DescriptorSet {
   /// `size` is the bytes left in the loop on the way in, those consumed on the way out. Throws "too little
   /// data" where fewer than 5 are left. A last descriptor that runs over the entry is not noticed.
   PmtStreamInfo(_PMT_INFO* entry, int& size);
+  /// From where the reader is, and steps over it.
   explicit PmtStreamInfo(Reader& reader);
+  /// From its element of a document. Throws `error` where a part is missing.
   explicit PmtStreamInfo(void* node);
+  /// Saves it on its element. False once the document refuses.
   bool _save_stream_info(void* document, void* element) const;
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
 
   int stream_type = 0;                                             ///< 8 bits

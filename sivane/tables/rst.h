@@ -15,14 +15,19 @@ namespace sivane {
 /// Throws "descriptor start end mismatch" unless section_length is 9n; the whole entries stay.
 class SIVANE_API Rst final : public PsiBase {
  public:
+  /// One event, and whether it runs.
   class SIVANE_API Status {
    public:
     Status() = default;
     /// `size` is 9 on the way out; on the way in it is not looked at.
     Status(unsigned char const* data, int& size);
+    /// From where the reader is, and steps over it.
     explicit Status(Reader& reader);
+    /// From its element of a document. Throws `error` where a part is missing.
     explicit Status(void* node);
+    /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int transport_stream_id = 0;  ///< 16 bits

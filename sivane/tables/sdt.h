@@ -26,9 +26,13 @@ class SIVANE_API Sdt final : public PsiTableBase {
     Service_info() = default;
     /// `size` is the bytes available on the way in, those consumed on the way out.
     Service_info(unsigned char const* data, int& size);
+    /// From where the reader is, and steps over it.
     explicit Service_info(Reader& reader);
+    /// From its element of a document. Throws `error` where a part is missing.
     explicit Service_info(void* node);
+    /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    /// Prints its lines.
     void dump_state(std::ostream& os) const;
 
     int service_id = 0;                  ///< 16 bits

@@ -12,37 +12,46 @@
 
 namespace sivane {
 
-/// The frame of long-form sections: five header bytes behind the length, and a CRC (ISO/IEC 13818-1, 2.4.4).
+/// The frame of long-form sections: five header bytes after the length, and a CRC (ISO/IEC 13818-1, 2.4.4).
 ///
 /// `Parse` adds to what the object holds: call `reset` before an object is used again. A `Parse` that throws
 /// leaves `valid` as it was, and fields and containers as far as it got. Nothing is kept of the caller's
 /// bytes.
 class SIVANE_API PsiTableBase {
  public:
+  /// Loads the table from its element; sets `valid`. Throws `error` where a part is missing, and checks
+  /// nothing else.
   virtual void Parse(void* node);
   /// Checks and reads the section at `section`, which must hold the section_length + 3 bytes that it claims.
   /// Throws `error`: "crc error", `syntax_error` for the header bits, "invalid table id", and what the table
   /// adds.
   virtual void Parse(unsigned char const* section);
+  /// Saves the table on its element, which `document` has made. False once the document refuses a field or an
+  /// entry; what it refuses within descriptors and their records is left out and does not show.
   virtual bool SaveSection(void* document, void* element) const;
   /// The table's name by its id.
   virtual char const* get_table_id_text() const = 0;
   /// Empties what the table class holds.
   virtual void _reset() = 0;
+  /// The lines that the class adds to a dump.
   virtual void _dump_state(std::ostream& os) const = 0;
+  /// The part of `Parse(node)` that the class adds.
   virtual void _parse(void* node) = 0;
   /// Reads what follows the header; `body` is byte 8 of the section.
   virtual void _parse(unsigned char const* body) = 0;
+  /// The part of `SaveSection` that the class adds.
   virtual bool _save_section(void* document, void* element) const = 0;
   /// Whether `table_id`, which is set already, is one of the table's.
   virtual bool is_valid_tablesid() const = 0;
+  /// Whether the section_syntax_indicator is one that the table takes.
   virtual bool is_valid_syntax_indicator(int indicator) const;
-  /// `bits` are the two reserved bits behind the section_syntax_indicator and the bit that follows it.
+  /// `bits` are the two reserved bits after the section_syntax_indicator and the bit that follows it.
   virtual bool is_valid_reserved_header(int bits) const;
 
   /// The same as `Parse(section)` for `available` bytes; "too little data" if the section does not fit in
   /// them.
   void Parse(unsigned char const* section, std::size_t available);
+  /// `table_id`.
   int get_table_id() const { return table_id; }
   /// Empties the containers and clears `valid`; the numbers stay.
   void reset();
@@ -51,7 +60,7 @@ class SIVANE_API PsiTableBase {
 
   int table_id = 0;                            ///< 8 bits
   int syntax_indicator = 0;                    ///< 1 bit
-  int section_length = 0;                      ///< 12 bits: the bytes behind this field
+  int section_length = 0;                      ///< 12 bits: the bytes after this field
   int context_id = 0;                          ///< 16 bits: table_id_extension
   int version_number = 0;                      ///< 5 bits
   int section_number = 0;                      ///< 8 bits
@@ -94,27 +103,39 @@ inline constexpr Failure start_end_mismatch{error::no_errorcode, "descriptor sta
 /// to 5.2.7).
 class SIVANE_API PsiBase {
  public:
+  /// Loads the table from its element; sets `valid`. Throws `error` where a part is missing, and checks
+  /// nothing else.
   virtual void Parse(void* node);
   /// As `PsiTableBase::Parse`. Throws `error`: `syntax_error` for the header bits, "invalid table id", and
   /// what the table adds.
   virtual void Parse(unsigned char const* section);
+  /// Saves the table on its element, which `document` has made. False once the document refuses a field or an
+  /// entry; what it refuses within descriptors and their records is left out and does not show.
   virtual bool SaveSection(void* document, void* element) const;
+  /// Whether the section_syntax_indicator is one that the table takes.
   virtual bool is_syntax_indicator_valid(int indicator) const;
+  /// The table's name by its id.
   virtual char const* get_table_id_text() const = 0;
+  /// Empties what the table class holds.
   virtual void _reset() = 0;
   /// "table_id: " and "section_length: " in the stream's base; a table calls this first.
   virtual void _dump_state(std::ostream& os) const;
+  /// The part of `Parse(node)` that the class adds.
   virtual void _parse(void* node) = 0;
   /// Reads what follows the header; `body` is byte 3 of the section.
   virtual void _parse(unsigned char const* body) = 0;
+  /// The part of `SaveSection` that the class adds.
   virtual bool _save_section(void* document, void* element) const = 0;
+  /// Whether `table_id`, which is set already, is one of the table's.
   virtual bool is_valid_tablesid() const = 0;
 
+  /// As `PsiTableBase::Parse` of as many bytes.
   void Parse(unsigned char const* section, std::size_t available);
+  /// Prints its lines.
   void dump_state(std::ostream& os) const;
 
   int table_id = 0;        ///< 8 bits
-  int section_length = 0;  ///< 12 bits: the bytes behind this field
+  int section_length = 0;  ///< 12 bits: the bytes after this field
   bool valid = false;      ///< a `Parse` has run to its end
 
  protected:

@@ -21,8 +21,8 @@ class SIVANE_API Tot final : public PsiBase, public DescriptorSet {
   SIVANE_TABLE
   bool is_syntax_indicator_valid(int indicator) const override;
 
-  DateTime UTC_time;
-  unsigned long crc32 = 0;  ///< 32 bits, behind the descriptors; compared with nothing
+  DateTime UTC_time;        ///< UTC
+  unsigned long crc32 = 0;  ///< 32 bits, after the descriptors; compared with nothing
 };
 
 }  // namespace sivane

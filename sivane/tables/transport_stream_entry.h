@@ -16,8 +16,11 @@ class SIVANE_API TransportStreamEntry : public DescriptorSet {
   /// `size` is the bytes available on the way in, those consumed on the way out. Throws "too little data"
   /// where fewer than 6 are available.
   TransportStreamEntry(unsigned char const* data, int& size);
+  /// From where the reader is; `available` bytes are left in the loop.
   TransportStreamEntry(Reader& reader, int available);
+  /// From its element of a document. Throws `error` where a part is missing.
   explicit TransportStreamEntry(void* node);
+  /// Saves it on its element. False once the document refuses.
   bool _save_stream_info(void* document, void* element) const;
 
   int stream_id = 0;   ///< transport_stream_id, 16 bits

@@ -37,7 +37,7 @@ inline constexpr char const* failed = "failed";
 
 class Archive {
  public:
-  /// Saves. The first refusal of the document makes everything behind it do nothing, and `ok` false.
+  /// Saves. The first refusal of the document makes everything after it do nothing, and `ok` false.
   Archive(void* document, void* element);
   /// Loads. Throws `map_failure` where the node has no attributes to ask for.
   explicit Archive(void* node, char const* map_failure = failed);
@@ -103,7 +103,7 @@ class Archive {
     }
   }
 
-  /// The entries of a table: an element `name` with an element `item` for each. The list stands in the tree
+  /// The entries of a table: an element `name` with an element `item` for each. The list is in the tree
   /// before it is filled, each item too, and an entry that is refused ends the saving.
   template <class Entry>
   void entries(char16_t const* name, char16_t const* item, std::vector<Entry>& all) {

@@ -34,7 +34,7 @@ SIVANE_API long GetAttributeValue(IXMLDOMNamedNodeMap* map, char16_t const* name
 SIVANE_API long GetAttributeValue(IXMLDOMNamedNodeMap* map, char16_t const* name, std::vector<int>& value);
 SIVANE_API long GetAttributeValue(IXMLDOMNamedNodeMap* map, char16_t const* name,
                                   std::vector<unsigned long>& value);
-/// Fills an array of `size` characters: at most `size` - 1 of the text, and zeros behind them.
+/// Fills an array of `size` characters: at most `size` - 1 of the text, and zeros after them.
 SIVANE_API long GetAttributeValue(IXMLDOMNamedNodeMap* map, char16_t const* name, char* value, int size);
 /// Fills at most `size` bytes; those that the text does not reach stay.
 SIVANE_API long GetAttributeValue(IXMLDOMNamedNodeMap* map, char16_t const* name, unsigned char* value,

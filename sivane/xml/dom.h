@@ -47,8 +47,11 @@ enum VARENUM : unsigned short { VT_EMPTY = 0, VT_I4 = 3, VT_R8 = 5, VT_BSTR = 8 
 /// The value of an attribute: empty, a 32-bit integer, a double or a text. Copies are independent.
 struct SIVANE_API tagVARIANT {
   tagVARIANT() = default;
+  /// VT_I4.
   explicit tagVARIANT(std::int32_t value) : vt(VT_I4), lVal(value) {}
+  /// VT_R8.
   explicit tagVARIANT(double value) : vt(VT_R8), dblVal(value) {}
+  /// VT_BSTR.
   explicit tagVARIANT(std::u16string value) : vt(VT_BSTR), bstrVal(std::move(value)) {}
 
   /// The value as an attribute shows it, in no locale: a decimal number, the shortest that reads back as the
@@ -75,7 +78,7 @@ class SIVANE_API IUnknown {
  public:
   /// Both give the count that remains. The object is gone after the Release that leaves 0.
   virtual long AddRef() = 0;
-  virtual long Release() = 0;
+  virtual long Release() = 0;  ///< as `AddRef`
   /// The element that the node is; fails for every other object.
   virtual long QueryInterface(InterfaceId iid, IXMLDOMElement** element) = 0;
 
@@ -147,6 +150,7 @@ class SIVANE_API IXMLDOMNamedNodeMap : public IUnknown {
 /// The children of one node.
 class SIVANE_API IXMLDOMNodeList : public IUnknown {
  public:
+  /// How many children there are.
   virtual long get_length(long* length) = 0;
   /// The child at `index`, from 0.
   virtual long get_item(long index, IXMLDOMNode** node) = 0;
@@ -164,11 +168,14 @@ class CComPtr {
   explicit CComPtr(Interface* object) : object_(object) {
     if (object_ != nullptr) object_->AddRef();
   }
+  /// Adds a reference.
   CComPtr(CComPtr const& other) : CComPtr(other.object_) {}
   /// The same object in a more general view.
   template <class Derived>
   CComPtr(CComPtr<Derived> const& other) : CComPtr(static_cast<Interface*>(other.get())) {}
+  /// Takes the reference over.
   CComPtr(CComPtr&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  /// Gives back the reference held before.
   CComPtr& operator=(CComPtr other) noexcept {
     std::swap(object_, other.object_);
     return *this;
@@ -177,8 +184,11 @@ class CComPtr {
     if (object_ != nullptr) object_->Release();
   }
 
+  /// What is held, or null.
   Interface* get() const { return object_; }
+  /// What is held; not to be used on null.
   Interface* operator->() const { return object_; }
+  /// Whether anything is held.
   explicit operator bool() const { return object_ != nullptr; }
 
   /// For an out-parameter: gives back what is held, and takes over the reference that is stored there.
