@@ -30,8 +30,10 @@ class SIVANE_API Bat final : public PsiTableBase, public DescriptorSet {
   /// `stream_infos`.
   std::vector<Stream_info> const& get_stream_infos() const { return stream_infos; }
 
-  std::vector<DescriptorCa> ca_descriptors;  ///< the table's own with tag 9, which documents do not carry
-  std::vector<Stream_info> stream_infos;     ///< in section order
+  /// The table's own with tag 9, which its `get_CA_descriptors` therefore never has. Documents do not carry
+  /// them.
+  std::vector<DescriptorCa> ca_descriptors;
+  std::vector<Stream_info> stream_infos;  ///< in section order
 };
 
 }  // namespace sivane

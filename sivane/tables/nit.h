@@ -31,8 +31,10 @@ class SIVANE_API Nit final : public PsiTableBase, public DescriptorSet {
   SIVANE_TABLE
   bool is_valid_syntax_indicator(int indicator) const override;
 
-  std::vector<DescriptorCa> ca_descriptors;  ///< the table's own with tag 9, which documents do not carry
-  std::vector<Stream_info> stream_infos;     ///< in section order
+  /// The table's own with tag 9, which its `get_CA_descriptors` therefore never has. Documents do not carry
+  /// them.
+  std::vector<DescriptorCa> ca_descriptors;
+  std::vector<Stream_info> stream_infos;  ///< in section order
 };
 
 }  // namespace sivane
