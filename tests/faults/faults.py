@@ -9,6 +9,8 @@ that does not compile (warnings are errors) does not count. Sources are .cpp fil
 named. Each fault is a line of the record: verdict, file and line, the line as it was, the line with its fault.
 """
 import argparse
+import collections
+import itertools
 import json
 import os
 import pathlib
@@ -18,6 +20,7 @@ import resource
 import shutil
 import signal
 import subprocess
+import sys
 import time
 
 FOLDERS = [f"sivane/{name}" for name in ("foundation", "demux", "tables", "descriptors", "xml")]
@@ -86,27 +89,29 @@ class Copy:
     """The copy of a tree that the faults are put into, its build and its test programs."""
 
     def __init__(self, tree, folder, preset):
-        self.root, self.build = folder / "tree", folder / preset
-        shutil.rmtree(self.root, ignore_errors=True)
-        shutil.copytree(tree, self.root, ignore=shutil.ignore_patterns("build", ".git"), symlinks=True)
+        self.root, self.build = folder, folder / "build" / preset
+        for entry in self.root.iterdir() if self.root.exists() else ():
+            if entry.name != "build":
+                shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
+        without = shutil.ignore_patterns("build", ".git", "__pycache__")
+        shutil.copytree(tree, self.root, ignore=without, symlinks=True, dirs_exist_ok=True)
         left_out = [f"-DSIVANE_BUILD_{part}=OFF" for part in ("BENCHMARKS", "EXAMPLES", "FUZZERS", "INSPECT")]
-        subprocess.run(["cmake", "--preset", preset, "-B", self.build, "-DCMAKE_CXX_FLAGS_DEBUG=",
-                        "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", *left_out],
-                       cwd=self.root, check=True, stdout=subprocess.DEVNULL)
-        subprocess.run(["cmake", "--build", self.build], check=True, stdout=subprocess.DEVNULL)
+        for command in (["cmake", "--preset", preset, "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", *left_out],
+                        ["cmake", "--build", "--preset", preset]):
+            subprocess.run(command, cwd=self.root, check=True, stdout=subprocess.DEVNULL)
         listed = json.loads(subprocess.run(["ctest", "--show-only=json-v1"], cwd=self.build, check=True,
                                            capture_output=True).stdout)["tests"]
         commands = [test["command"] for test in listed if "command" in test]
         own = [c for c in commands if not any(a.startswith("--gtest") for a in c)]
         gtest = {c[0] for c in commands if c not in own}
         self.programs = [[program, "--gtest_fail_fast", "--gtest_brief=1"] for program in sorted(gtest)] + own
-        seconds = {}
-        for command in self.programs:
-            start = time.monotonic()
-            if not self.passes(command):
-                raise SystemExit(f"faults: without a fault, {command[0]} fails")
-            seconds[tuple(command)] = time.monotonic() - start
-        self.programs.sort(key=lambda command: seconds[tuple(command)])
+        self.programs.sort(key=self.seconds)
+
+    def seconds(self, command):
+        start = time.monotonic()
+        if not self.passes(command):
+            raise SystemExit(f"faults: without a fault, {command[0]} fails")
+        return time.monotonic() - start
 
     def passes(self, command, seconds=900):
         memory = [] if "asan" in self.build.name else ["prlimit", f"--as={4 << 30}"]
@@ -147,7 +152,7 @@ def chosen(tree, arguments, equivalent):
         files = [str(source.relative_to(tree)) for source in sources]
         faults = [f for file in files for f in faults_of(tree, file) if (f[0], *f[2:]) not in equivalent]
         random.Random(f"{arguments.seed} {name}").shuffle(faults)
-        yield name, faults
+        yield faults
 
 
 def main():
@@ -159,24 +164,24 @@ def main():
     parser.add_argument("--from", dest="record", help="the faults of an earlier record instead")
     parser.add_argument("--preset", default="dev", help="the preset to build with; asan sees more and is slower (dev)")
     parser.add_argument("--tree", type=pathlib.Path, default=here.parents[2], help="the tree to test (this one)")
-    parser.add_argument("--work", type=pathlib.Path, help="where the copy goes (build/faults in the tree)")
+    parser.add_argument("--copy", type=pathlib.Path, help="where the copy is (build/faults in the tree)")
     arguments = parser.parse_args()
     tree = arguments.tree.resolve()
     rows = [line.split("\t") for line in here.with_name("equivalent.tsv").read_text().splitlines()]
     equivalent = {(place.split(":")[0], old, new) for _, place, old, new in rows}
-    copy = Copy(tree, (arguments.work or tree / "build/faults").resolve(), arguments.preset)
-    parts = [(arguments.record, list(recorded(tree, arguments.record)))] if arguments.record else \
-        chosen(tree, arguments, equivalent)
-    summary = []
-    for name, faults in parts:
-        wanted, verdicts = len(faults) if arguments.record else arguments.count, []
-        for fault in faults:
-            verdict = copy.verdict(fault) if len(verdicts) < wanted else None
-            if verdict:
-                verdicts.append(verdict)
-                print(verdict, f"{fault[0]}:{fault[1]}", *fault[2:], sep="\t", flush=True)
-        summary.append(f"{name}: {len(verdicts) - verdicts.count('SURVIVES')} of {len(verdicts)} caught")
-    print(*summary, sep="\n")
+    copy = Copy(tree, (arguments.copy or tree / "build/faults").resolve(), arguments.preset)
+    parts = [recorded(tree, arguments.record)] if arguments.record else chosen(tree, arguments, equivalent)
+    wanted = None if arguments.record else arguments.count
+    caught, put = collections.Counter(), collections.Counter()
+    for faults in parts:
+        verdicts = ((copy.verdict(fault), fault) for fault in faults)
+        counted = (found for found in verdicts if found[0])
+        for verdict, (file, number, old, new) in itertools.islice(counted, wanted):
+            print(verdict, f"{file}:{number}", old, new, sep="\t", flush=True)
+            put[os.path.dirname(file)] += 1
+            caught[os.path.dirname(file)] += verdict != "SURVIVES"
+    for folder, count in put.items():
+        print(f"{folder}: {caught[folder]} of {count} caught", file=sys.stderr)
 
 
 if __name__ == "__main__":
