@@ -99,16 +99,16 @@ void Demux::PidHandler::Assembly::deliver_to_table(unsigned char const* section,
   auto const entry = owner_.psi_handlers.find(section[0]);
   if (entry == owner_.psi_handlers.end() || entry->second->added_in_ >= began_in_) return;
   int const section_number = size > 6 ? section[6] : 0;
-  Demux& demux = owner_.demux;
-  demux.guard([&] { demux.on_psi_section(pid_, section[0], section_number, section); });
+  Demux& host = owner_.demux;
+  host.guard([&] { host.on_psi_section(pid_, section[0], section_number, section); });
 }
 
 void Demux::PidHandler::Assembly::deliver_to_filters(unsigned char const* section, int size) {
-  Demux& demux = owner_.demux;
+  Demux& host = owner_.demux;
   for (PSIFilterHandler* const filter : owner_.filter_handlers) {
     if (filter->added_in_ >= began_in_ || !filter->matches(section, size)) continue;
     std::copy_n(section, size, filter->section);
-    demux.guard([&] { demux.on_psi_section(filter->id, size, filter->section); });
+    host.guard([&] { host.on_psi_section(filter->id, size, filter->section); });
     if (is_over()) return;
   }
 }
