@@ -72,7 +72,7 @@ TEST(TimeValues, TextsRestoreWhatTheyReach) {
 
 TEST(ApplicationIdentifier, TextsAreHexadecimalOfEitherCase) {
   for (auto const& [text, expected] :
-       std::vector<std::pair<char const*, char const*>>{{"80000015 ff01", "80000015 FF01"},
+       std::vector<std::pair<char const*, char const*>>{{"80000015 -1", "80000015 FFFFFFFF"},
                                                         {"aB 0Xc", "000000AB 000C"},
                                                         {"7", "00000007 0002"},
                                                         {"g 5", "00000001 0002"}}) {
