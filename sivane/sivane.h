@@ -33,6 +33,7 @@
 #include <sivane/tables/rst.h>
 #include <sivane/tables/sdt.h>
 #include <sivane/tables/section.h>
+#include <sivane/tables/seen_sections.h>
 #include <sivane/tables/table_ids.h>
 #include <sivane/tables/tdt.h>
 #include <sivane/tables/tot.h>

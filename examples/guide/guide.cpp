@@ -84,6 +84,26 @@ void print_section(std::vector<unsigned char> const& bytes) {
   }
 }
 
+// What was seen before
+
+class TablesOnce final : public sivane::DemuxPush {
+ public:
+  TablesOnce() { add_psi_handler(0x0011, 0x42); }
+
+  int parsed = 0;
+
+ protected:
+  void on_psi_section(int pid, int, int, unsigned char const* section) override {
+    if (!seen_.is_new(pid, section)) return;
+    sivane::Sdt sdt;
+    sdt.Parse(section);
+    ++parsed;
+  }
+
+ private:
+  sivane::SeenSections seen_;
+};
+
 // Services of a stream
 
 class ServiceNames final : public sivane::DemuxPush {
@@ -177,12 +197,15 @@ int main(int argc, char** argv) {
 
   Receiver receiver;
   EventCounter events;
+  TablesOnce tables;
   ServiceNames services;
   PresentEvents present;
   bool const whole =
       receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0 &&
-      services.push_data(stream.data(), size) == 0 && present.push_data(stream.data(), size) == 0;
-  std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections\n";
+      tables.push_data(stream.data(), size) == 0 && services.push_data(stream.data(), size) == 0 &&
+      present.push_data(stream.data(), size) == 0;
+  std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections, "
+            << tables.parsed << " versions of the services\n";
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
   for (auto const& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
@@ -198,7 +221,7 @@ int main(int argc, char** argv) {
   sivane::init();
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  bool const found =
-      receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() && !present.names.empty();
+  bool const found = tables.parsed == 2 && receiver.program_maps > 0 && events.sections > 0 &&
+                     !services.names.empty() && !present.names.empty();
   return whole && found && survives ? 0 : 1;
 }
