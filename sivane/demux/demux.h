@@ -241,7 +241,8 @@ class SIVANE_API Demux {
   Reassembly reassembly_ = Reassembly::first_start;
   GapListener* gap_listener_ = nullptr;
   std::exception_ptr failure_;  // the first one of the packet or buffer under way
-  std::uint64_t packet_offset_ = 0;
+  alignas(64) std::uint64_t packet_offset_ =
+      0;  // written for each packet: no two objects share its cache line
   std::uint64_t next_offset_ = 0;
   std::uint64_t section_offset_ = 0;
   int deliveries_ = 0;        // calls of PidHandler::parse under way
