@@ -58,7 +58,8 @@ long give(Given* object, Given** out) {
 /// What the three kinds of nodes hold, reachable from each of their interfaces.
 struct Node {
   virtual ~Node() = default;
-  std::u16string name, value;
+  std::u16string name;
+  tagVARIANT value;
   std::vector<CComPtr<IXMLDOMNode>> children, attributes;
 };
 
@@ -125,12 +126,12 @@ class NodeObject : public Object<Interface>, public Node {
   }
   long get_nodeValue(tagVARIANT* out) override {
     SIVANE_REFUSABLE(false);
-    *out = tagVARIANT(value);
-    return S_OK;
+    *out = value;
+    return S_FALSE;  // a success like any other
   }
   long put_nodeValue(tagVARIANT in) override {
     SIVANE_REFUSABLE(false);
-    value = in.text();
+    value = std::move(in);
     return S_OK;
   }
   long selectSingleNode(char16_t const* child, IXMLDOMNode** node) override {
@@ -199,7 +200,7 @@ void write(IXMLDOMNode* node, std::string const& indent, std::string& text) {
   text += indent + printable(it.name);
   for (auto const& attribute : it.attributes) {
     Node const& a = node_of(attribute.get());
-    text += ' ' + printable(a.name) + "=\"" + printable(a.value) + '"';
+    text += ' ' + printable(a.name) + "=\"" + printable(a.value.text()) + '"';
   }
   text += '\n';
   for (auto const& child : it.children) write(child.get(), indent + "  ", text);
