@@ -2,10 +2,12 @@
 // Copyright (c) 2026 the sivane authors
 //
 // A large EIT saved and loaded, beside the document's own work alone: building the same tree of texts that
-// are ready, and going through it and reading every text.
+// are ready, and going through it and reading every text; and beside what pugixml, which holds the tree,
+// takes for building and writing it.
 #include <sivane/dom/document.h>
 #include <sivane/tables/eit.h>
 
+#include <pugixml.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -160,7 +162,66 @@ void load_eit(benchmark::State& state) {
   if (events != eit.event_infos.size() || letters == 0) state.SkipWithError("an event is missing");
 }
 
+std::string saved_by(sivane::Eit const& eit) {
+  Document document;
+  eit.SaveSection(document.dom(), document.make_root("eit").get());
+  return document.save_string();
+}
+
+void build_in_pugixml(pugi::xml_node parent, pugi::xml_node const& element) {
+  pugi::xml_node made = parent.append_child(element.name());
+  for (pugi::xml_attribute const attribute : element.attributes()) {
+    made.append_attribute(attribute.name()).set_value(attribute.value());
+  }
+  for (pugi::xml_node const& child : element.children()) build_in_pugixml(made, child);
+}
+
+void save_beside_pugixml(benchmark::State& state) {
+  sivane::Eit const eit = large_eit();
+  pugi::xml_document tree;
+  tree.load_string(saved_by(eit).c_str());
+  sivane::bench::compare(
+      state, 0, "the time of building the same tree in pugixml",
+      [&] {
+        Document document;
+        eit.SaveSection(document.dom(), document.make_root("eit").get());
+      },
+      [&] {
+        pugi::xml_document document;
+        build_in_pugixml(document, tree.document_element());
+      });
+}
+
+struct StringWriter final : pugi::xml_writer {
+  void write(void const* data, std::size_t size) override {
+    text.append(static_cast<char const*>(data), size);
+  }
+  std::string text;
+};
+
+void write_beside_pugixml(benchmark::State& state) {
+  Document document;
+  large_eit().SaveSection(document.dom(), document.make_root("eit").get());
+  pugi::xml_document tree;
+  tree.load_string(document.save_string().c_str());
+  std::string written;
+  StringWriter writer;
+  sivane::bench::compare(
+      state, document.save_string().size(), "the time of pugixml", [&] { written = document.save_string(); },
+      [&] {
+        writer.text.clear();
+        tree.save(writer, "  ", pugi::format_indent, pugi::encoding_utf8);
+      });
+  if (written.size() < writer.text.size()) state.SkipWithError("the documents differ");
+}
+
 }  // namespace
 
 BENCHMARK(save_eit)->Name("XML, saving an EIT of 1000 events")->Apply(sivane::bench::timed_by_hand);
 BENCHMARK(load_eit)->Name("XML, loading an EIT of 1000 events")->Apply(sivane::bench::timed_by_hand);
+BENCHMARK(save_beside_pugixml)
+    ->Name("XML, saving an EIT of 1000 events, to pugixml")
+    ->Apply(sivane::bench::timed_by_hand);
+BENCHMARK(write_beside_pugixml)
+    ->Name("XML, writing an EIT of 1000 events, to pugixml")
+    ->Apply(sivane::bench::timed_by_hand);

@@ -3,6 +3,7 @@
 #include <sivane/dom/characters.h>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace sivane::dom {
 
@@ -58,6 +59,20 @@ void append_utf16(std::u16string& text, char32_t c) {
   }
 }
 
+/// Copies into other units; false unless all of it is ASCII without controls, which both sides spell alike.
+/// Without an early end, so that it is done for many characters at a time.
+template <class To, class From>
+bool copy_plain(From const& text, To& converted) {
+  converted.resize(text.size());
+  bool is_odd = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    auto const unit = static_cast<std::conditional_t<sizeof(text[0]) == 1, unsigned char, char16_t>>(text[i]);
+    converted[i] = static_cast<typename To::value_type>(unit);
+    is_odd |= unit < 0x20 || unit > 0x7E;
+  }
+  return !is_odd;
+}
+
 bool starts_name(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == ':'; }
 
 bool continues_name(char c) { return starts_name(c) || (c >= '0' && c <= '9') || c == '-' || c == '.'; }
@@ -66,6 +81,8 @@ bool continues_name(char c) { return starts_name(c) || (c >= '0' && c <= '9') ||
 
 std::string to_utf8(std::u16string_view text) {
   std::string converted;
+  if (copy_plain(text, converted)) return converted;
+  converted.clear();
   converted.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) append_utf8(converted, as_xml(next_code_point(text, at)));
   return converted;
@@ -73,6 +90,8 @@ std::string to_utf8(std::u16string_view text) {
 
 std::u16string from_utf8(std::string_view text) {
   std::u16string converted;
+  if (copy_plain(text, converted)) return converted;
+  converted.clear();
   converted.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) append_utf16(converted, from_xml(next_code_point(text, at)));
   return converted;

@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/dom/characters.h>
 #include <sivane/dom/nodes.h>
+#include <sivane/dom/refusal.h>
+#include <sivane/dom/writer.h>
 
 #include <string>
 #include <utility>
@@ -267,14 +269,23 @@ pugi::xml_node append_copy(pugi::xml_node parent, pugi::xml_node element) {
   return copy;
 }
 
-/// False if `parent` stands within this element. pugixml climbs up from `parent` to know that, however deep
-/// it is; an element without children needs no such test, and while it is unplaced nobody else refers to it,
-/// so that it can as well be made anew.
+/// The levels from a node to the top of its tree, or too many.
+int levels_down_to(pugi::xml_node node) {
+  int levels = 0;
+  for (; node && levels <= max_levels; node = node.parent()) ++levels;
+  return levels;
+}
+
+/// False if `parent` stands within this element. pugixml climbs up from `parent` to know that; where the way
+/// is long, an element without children, which needs no such test, is made anew: while it is unplaced nobody
+/// else refers to it.
 bool Element::move_to(pugi::xml_node parent) {
   pugi::xml_node const before = node();
-  if (before.parent() != tree()->unplaced || before.first_child() || before == parent) {
-    return static_cast<bool>(parent.append_move(before));
-  }
+  int const levels_above = levels_down_to(parent);
+  bool const is_leaf = !before.first_child();
+  tree()->may_be_deep |= is_leaf ? levels_above >= max_levels : is_too_deep(before, levels_above);
+  bool const is_fresh = is_leaf && before.parent() == tree()->unplaced && before != parent;
+  if (!is_fresh || levels_above <= max_levels) return static_cast<bool>(parent.append_move(before));
   set_node(append_copy(parent, before));
   tree()->unplaced.remove_child(before);
   return true;

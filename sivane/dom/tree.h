@@ -46,6 +46,7 @@ struct Tree {
     return document.find_child([](pugi::xml_node node) { return node.type() == pugi::node_element; });
   }
 
+  bool may_be_deep = false;  ///< false: no element stands too deep to be read again, so that nobody need look
   pugi::xml_document store;
   pugi::xml_node document = append_element(store, "document");  ///< what is saved: the root and its siblings
   pugi::xml_node unplaced = append_element(store, "unplaced");  ///< elements that nobody has appended yet

@@ -23,8 +23,16 @@ void append(std::string& text, pugi::xml_node node, int levels_above) {
   node.print(writer, "  ", pugi::format_indent, pugi::encoding_utf8, static_cast<unsigned int>(levels_above));
 }
 
-/// Whether elements stand within each other deeper than the reader takes them. Without recursion, since a
-/// tree that was built may have any depth.
+pugi::xml_node checked_root(Tree const& tree, int levels_above) {
+  pugi::xml_node const root = tree.root();
+  if (!root) throw error("there is no root element");
+  if (tree.may_be_deep && is_too_deep(root, levels_above)) throw error(too_many_levels().c_str());
+  return root;
+}
+
+}  // namespace
+
+/// Without recursion, since a tree that was built may have any depth.
 bool is_too_deep(pugi::xml_node root, int levels_above) {
   int level = levels_above + 1;
   for (pugi::xml_node node = root; node;) {
@@ -42,15 +50,6 @@ bool is_too_deep(pugi::xml_node root, int levels_above) {
   }
   return false;
 }
-
-pugi::xml_node checked_root(Tree const& tree, int levels_above) {
-  pugi::xml_node const root = tree.root();
-  if (!root) throw error("there is no root element");
-  if (is_too_deep(root, levels_above)) throw error(too_many_levels().c_str());
-  return root;
-}
-
-}  // namespace
 
 std::string write(Tree const& tree) {
   checked_root(tree, 0);

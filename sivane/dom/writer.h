@@ -12,6 +12,9 @@ namespace sivane::dom {
 
 constexpr char declaration[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 
+/// Whether elements of this tree stand deeper than they could be read, with so many levels above it.
+bool is_too_deep(pugi::xml_node root, int levels_above);
+
 /// The text of the document. Throws `error` unless it could be read again.
 std::string write(Tree const& tree);
 
