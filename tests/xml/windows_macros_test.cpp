@@ -11,8 +11,6 @@
 #define small char
 #define near
 #define far
-#define min(a, b) ((a) < (b) ? (a) : (b))
-#define max(a, b) ((a) > (b) ? (a) : (b))
 #include <sivane/sivane.h>
 
 static_assert(S_OK == 0 && S_FALSE == 1 && E_FAIL == -0x7FFF'BFFBL);
