@@ -2,13 +2,17 @@
 // Copyright (c) 2026 the sivane authors
 #include "command_line.h"
 
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <ostream>
 
 #include "console.h"
 #include "exit_status.h"
 #include "help_texts.h"
 #include "nearest_word.h"
+#include "output.h"
 
 namespace inspect {
 
@@ -62,9 +66,18 @@ std::string fault_of_command(CLI::App const& command, CLI::ParseError const& rea
   return "no such option: " + word + suggestion(word.substr(0, word.find('=')), option_names(command));
 }
 
+int print_help(CLI::App const& app, CLI::ParseError const& asked_for) {
+  OutputBuffer buffer(STDOUT_FILENO);
+  std::ostream out(&buffer);
+  out.exceptions(std::ios::badbit);
+  app.exit(asked_for, out, out);
+  out.flush();
+  return all_well;
+}
+
 int leave(CLI::App const& app, CLI::ParseError const& reason) {
   bool const is_help = reason.get_exit_code() == 0;
-  if (is_help) return app.exit(reason);
+  if (is_help) return print_help(app, reason);
   std::string text = "a command is required";
   std::vector<std::string> const unknown = app.remaining();
   if (!app.get_subcommands().empty()) {

@@ -10,6 +10,7 @@
 
 #include "command_line.h"
 #include "console.h"
+#include "output.h"
 #include "run.h"
 
 namespace {
@@ -30,6 +31,9 @@ int main(int argc, char** argv) try {
   return options ? inspect::run(*options) : exit_status;
 } catch (std::bad_alloc const&) {
   leave_without_memory();
+} catch (inspect::OutputLost const& lost) {
+  inspect::report("cannot write to standard output: " + lost.reason);
+  return inspect::unusable;
 } catch (sivane::error const& failure) {
   inspect::report(failure.what());
   return inspect::unusable;

@@ -67,7 +67,7 @@ void count_failures(Command const& command) {
 
 }  // namespace
 
-ExitStatus run(Options const& options) try {
+ExitStatus run(Options const& options) {
   if (options.quiet) be_quiet();
   OutputBuffer buffer(STDOUT_FILENO);
   std::ostream out(&buffer);
@@ -79,9 +79,6 @@ ExitStatus run(Options const& options) try {
   count_failures(*command);
   print_conclusions();
   return status;
-} catch (OutputLost const& lost) {
-  report("cannot write to standard output: " + lost.reason);
-  return unusable;
 }
 
 }  // namespace inspect

@@ -21,7 +21,9 @@ std::u32string registered_name(char const* (*lookup)(int), int id) {
     text.replace(at, entity.size(), 1, ' ');
   }
   std::u32string clean;
-  for (unsigned char const c : text) {  // ISO 8859-1, whose bytes are the first characters of Unicode
+  for (char const byte : text) {
+    auto const c =
+        static_cast<unsigned char>(byte);  // ISO 8859-1, whose bytes are the first characters of Unicode
     bool const is_blank = c == ' ' || c == 0xA0;
     if (!is_blank) clean += char32_t(c);
     if (is_blank && !clean.empty() && clean.back() != U' ') clean += U' ';
