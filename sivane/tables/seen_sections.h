@@ -19,6 +19,7 @@ namespace sivane {
 /// for each of the `capacity` (and no less than 4 KB). An object is for one stream and one thread.
 class SIVANE_API SeenSections {
  public:
+  /// What is known of a section.
   enum class Sighting {
     first,        ///< never seen
     new_version,  ///< seen with another version_number
