@@ -10,6 +10,7 @@ named. Each fault is a line of the record: verdict, file and line, the line as i
 """
 import argparse
 import collections
+import filecmp
 import itertools
 import json
 import os
@@ -85,16 +86,23 @@ def limited():
     resource.setrlimit(resource.RLIMIT_FSIZE, (1 << 28, 1 << 28))
 
 
+def update(source, target):
+    """Copies what differs, as a file of now: what an earlier run left with a fault is compiled anew."""
+    if not os.path.exists(target) or not filecmp.cmp(source, target, shallow=False):
+        shutil.copy(source, target)
+
+
 class Copy:
     """The copy of a tree that the faults are put into, its build and its test programs."""
 
     def __init__(self, tree, folder, preset):
         self.root, self.build = folder, folder / "build" / preset
-        for entry in self.root.iterdir() if self.root.exists() else ():
-            if entry.name != "build":
-                shutil.rmtree(entry) if entry.is_dir() else entry.unlink()
         without = shutil.ignore_patterns("build", ".git", "__pycache__")
-        shutil.copytree(tree, self.root, ignore=without, symlinks=True, dirs_exist_ok=True)
+        shutil.copytree(tree, self.root, ignore=without, dirs_exist_ok=True, copy_function=update)
+        for entry in self.root.rglob("*"):
+            below = entry.relative_to(self.root)
+            if below.parts[0] != "build" and entry.is_file() and not (tree / below).exists():
+                entry.unlink()
         left_out = [f"-DSIVANE_BUILD_{part}=OFF" for part in ("BENCHMARKS", "EXAMPLES", "FUZZERS", "INSPECT")]
         for command in (["cmake", "--preset", preset, "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON", *left_out],
                         ["cmake", "--build", "--preset", preset]):
