@@ -15,15 +15,6 @@
 namespace sivane::testing {
 namespace {
 
-// No destructor to call through the base, so no descriptor is deleted through it.
-static_assert(!std::is_destructible_v<DescriptorBase> && !std::has_virtual_destructor_v<DescriptorBase>);
-
-template <class Descriptor>
-constexpr bool is_plain_value =
-    std::is_nothrow_move_constructible_v<Descriptor>&& std::is_copy_constructible_v<Descriptor>&&
-        std::is_copy_assignable_v<Descriptor>&& std::is_base_of_v<DescriptorBase, Descriptor>&&
-            std::is_constructible_v<Descriptor, unsigned char const*>;
-
 template <class Set>
 void parse(Set& set, char const* descriptor) {
   file(set, hex(descriptor).data());
@@ -56,10 +47,11 @@ TYPED_TEST_SUITE(EitherSet, Sets);
 TYPED_TEST(EitherSet, IsALightValueOfPlainValues) {
   static_assert(sizeof(TypeParam) <= 64 && std::is_nothrow_move_constructible_v<TypeParam> &&
                 std::is_nothrow_move_assignable_v<TypeParam>);
+  // No destructor to call through the base, so no descriptor is deleted through it.
+  static_assert(!std::is_destructible_v<DescriptorBase>);
   each_row<TypeParam>([]<class Descriptor>(Row<TypeParam, Descriptor> const&) {
-    static_assert(is_plain_value<Descriptor>);
-    static_assert(std::is_same_v<TypeParam, DescriptorSet> || std::is_same_v<Descriptor, DescriptorGeneral> ||
-                  std::is_base_of_v<DescriptorAitBase, Descriptor>);
+    static_assert(std::is_nothrow_move_constructible_v<Descriptor> && std::is_copy_assignable_v<Descriptor> &&
+                  std::is_constructible_v<Descriptor, unsigned char const*>);
   });
 }
 
@@ -85,7 +77,7 @@ TYPED_TEST(EitherSet, CopiesAreIndependentAndMovesTakeEverything) {
   EXPECT_EQ(counts(set), before);
 }
 
-TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAlone) {
+TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAloneOrAllOfThem) {
   TypeParam& set = this->full;
   TypeParam expected, none;
   none.clear_general_descriptors();
@@ -97,16 +89,12 @@ TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAlone) {
   EXPECT_EQ(counts(set), counts(copy));
   EXPECT_EQ(set.get_general_descriptors()[0].tag, 0x7F);
   EXPECT_EQ(copy.get_general_descriptors()[0].tag, 0x15);
-}
-
-TEST(DescriptorSet, ClearedItIsAsNew) {
-  DescriptorSet set;
-  parse(set, "52 01 11");
-  parse(set, "7F 01 11");
-  set.clear_descriptors();
-  EXPECT_EQ(counts(set), counts(DescriptorSet()));
-  parse(set, "52 01 22");
-  EXPECT_EQ(set.get_stream_identifier_descriptors().at(0).component_tag, 0x22);
+  if constexpr (std::is_same_v<TypeParam, DescriptorSet>) {
+    set.clear_descriptors();
+    EXPECT_EQ(counts(set), counts(TypeParam()));
+    parse(set, "52 01 22");
+    EXPECT_EQ(set.get_stream_identifier_descriptors().at(0).component_tag, 0x22);
+  }
 }
 
 TEST(AitDescriptorSet, DumpsEverythingRowByRow) {

@@ -148,12 +148,6 @@ TEST(Pmt, PrintsTheHostsDescriptorsUntilReset) {
             dump.npos);
 }
 
-TEST(Pmt, CountsItsStreamsInHexadecimal) {
-  std::string section = "02 B( 1234 C1 00 00 E1FF F()";
-  for (int i = 0; i < 16; ++i) section += " 02 E100 F()";
-  EXPECT_NE(dumped(parsed<Pmt>(section + " crc )")).find("\nDumping 10 stream infos\n"), std::string::npos);
-}
-
 TEST(Pmt, PutsBackFlagsAndWidthAndNotTheFill) {
   Pmt const pmt = parsed<Pmt>(protected_program);
   std::ostringstream os;
