@@ -8,6 +8,7 @@
 
 #include <sstream>
 
+#include "case_file.h"
 #include "file_contents.h"
 #include "memory_dom.h"
 #include "section_builder.h"
@@ -114,6 +115,81 @@ void expect_table_is_listed(std::string const& name) {
   std::string const classes = header.substr(0, header.find("):"));
   EXPECT_NE(classes.find("`" + name + "`"), std::string::npos) << name << " in: " << classes;
   EXPECT_EQ(listed_names_of_table(name), saved_names<Table>(names_in(header.substr(classes.size())))) << name;
+}
+
+/// An element of a tree of the case files, without its indent: its name, and the attributes' and children's
+/// names.
+struct Element {
+  std::string name, attributes, children;
+};
+
+std::vector<std::pair<std::size_t, Element>> elements_of(std::string const& tree) {
+  std::vector<std::pair<std::size_t, Element>> elements;
+  std::istringstream lines(tree);
+  for (std::string line; std::getline(lines, line);) {
+    std::size_t const indent = line.find_first_not_of(' ');
+    std::string const name = line.substr(indent, line.find(' ', indent) - indent);
+    Element element{name, "", ""};
+    for (std::size_t end = 0; (end = line.find("=\"", end)) != std::string::npos; ++end) {
+      std::size_t const start = line.rfind(' ', end) + 1;
+      element.attributes += line.substr(start, end - start) + ' ';
+    }
+    elements.emplace_back(indent, element);
+  }
+  return elements;
+}
+
+/// The rows that the page must have for the records of a descriptor's document: element, list, attributes and
+/// children.
+std::set<std::string> records_of(std::string const& tree) {
+  std::set<std::string> rows;
+  std::map<std::size_t, Element> open;
+  auto const close = [&](std::size_t indent) {
+    while (!open.empty() && open.rbegin()->first >= indent) {
+      auto const [its_indent, element] = *open.rbegin();
+      open.erase(its_indent);
+      if (its_indent < 2 || element.attributes.empty()) continue;
+      Element const& parent = open.rbegin()->second;
+      std::string const list = parent.attributes.empty() && its_indent > 2 ? parent.name + ' ' : "";
+      rows.insert(element.name + " | " + list + "| " + element.attributes + "| " + element.children);
+    }
+  };
+  for (auto const& [indent, element] : elements_of(tree)) {
+    close(indent);
+    bool const is_item = !open.empty() && open.rbegin()->second.attributes.empty() && indent > 2;
+    if (!open.empty() && !is_item) open.rbegin()->second.children += element.name + ' ';
+    open[indent] = element;
+  }
+  close(0);
+  return rows;
+}
+
+std::set<std::string> listed_records() {
+  std::set<std::string> rows;
+  std::istringstream lines(paragraph("| element | in | attributes | children |"));
+  for (std::string line; std::getline(lines, line);) {
+    if (line.rfind("| `", 0) != 0) continue;
+    std::istringstream cells(line.substr(2));
+    std::string cell, row;
+    for (int i = 0; i < 4 && std::getline(cells, cell, '|'); ++i) {
+      if (i == 1) cell.resize(cell.rfind('`', cell.find(" in ")) + 1);  // the list, without what it is in
+      row += (i > 0 ? "| " : "") + names_in(cell);
+    }
+    rows.insert(row);
+  }
+  return rows;
+}
+
+TEST(XmlFormatPage, ListsWhatEveryRecordHas) {
+  std::set<std::string> saved;
+  for (auto const& entry : std::filesystem::directory_iterator(SIVANE_TESTS "/descriptors/cases")) {
+    for (Step const& step : read_steps("descriptors/cases/" + entry.path().filename().string())) {
+      if (step.lines.contains("xml")) saved.merge(records_of(step.lines.at("xml")));
+    }
+  }
+  std::set<std::string> const listed = listed_records();
+  for (std::string const& row : saved) EXPECT_TRUE(listed.contains(row)) << "lacks: " << row;
+  for (std::string const& row : listed) EXPECT_TRUE(saved.contains(row)) << "nothing saves: " << row;
 }
 
 TEST(XmlFormatPage, ListsWhatEveryTableHas) {
