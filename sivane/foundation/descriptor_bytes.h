@@ -5,7 +5,6 @@
 #include <sivane/foundation/export.h>
 #include <sivane/foundation/failure.h>
 
-#include <algorithm>
 #include <cstddef>
 
 namespace sivane {
@@ -64,14 +63,14 @@ class DescriptorLoop {
   /// How many descriptors of the next one's tag follow each other from here.
   std::size_t run() const {
     std::size_t found = 0;
-    int const end = std::min(size_, limit_);
+    int const end = size_ < limit_ ? size_ : limit_;
     for (int at = next_; end - at >= 2 && first_[at] == first_[next_]; at += 2 + first_[at + 1]) ++found;
     return found;
   }
   /// How many such runs there are.
   std::size_t runs() const {
     std::size_t found = 0;
-    int const end = std::min(size_, limit_);
+    int const end = size_ < limit_ ? size_ : limit_;
     int tag = -1;
     for (int at = next_; end - at >= 2; at += 2 + first_[at + 1]) {
       found += first_[at] != tag ? 1u : 0u;

@@ -6,8 +6,8 @@
 #include <sivane/foundation/export.h>
 #include <sivane/foundation/failure.h>
 
-#include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <initializer_list>
 #include <string>
 #include <vector>
@@ -67,7 +67,7 @@ class SIVANE_API Reader {
   std::string prefixed_string() { return string(u8()); }
   /// An ISO 639 or ISO 3166 code: three bytes, and a terminating zero after them.
   void code(char (&three_letters)[4]) {
-    std::copy_n(raw(3), 3, three_letters);
+    std::memcpy(three_letters, raw(3), 3);
     three_letters[3] = '\0';
   }
   /// The bytes up to the reader's own end; none if the position is there or after it.
