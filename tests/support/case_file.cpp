@@ -24,7 +24,7 @@ std::string value_of(std::string const& line, std::string const& key) {
   std::string value = line.substr(key_size) + '\n';
   if (key != "dump") return value;
   for (std::size_t bar; (bar = value.find(between)) != std::string::npos;)
-    value.replace(bar, between.size(), "\n");
+    value.replace(bar, between.size(), 1, '\n');
   return value;
 }
 
