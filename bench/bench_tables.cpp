@@ -26,7 +26,7 @@ class CheckingHost final : public sivane::bench::TablesHost {
 
  protected:
   void on_psi_section(int, int, int, unsigned char const* section) override {
-    std::size_t const size = 3u + (section[1] & 0xFu) * 256u + section[2];
+    auto const size = static_cast<std::size_t>(sivane::section_size(section));
     good += sivane::crc_register(section, size) == 0 ? 1u : 0u;
   }
 };

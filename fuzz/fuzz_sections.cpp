@@ -32,7 +32,7 @@ void fit_length(Bytes& section) {
 
 /// The section ends where its length says; the bytes behind it stay.
 void fit_crc(Bytes& bytes) {
-  std::size_t const size = static_cast<std::size_t>((bytes[1] & 0xF) << 8 | bytes[2]) + 3;
+  std::size_t const size = static_cast<std::size_t>(sivane::section_size(bytes.data()));
   if (size < 4 || size > bytes.size()) return;
   Bytes section(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
   sivane::testing::repair_crc(section);

@@ -5,11 +5,14 @@
 #pragma once
 
 // What everything else uses: failures, text, time values, dumps, the bounded reader.
+#include <sivane/foundation/application_identifier.h>
 #include <sivane/foundation/dump.h>
 #include <sivane/foundation/error.h>
 #include <sivane/foundation/hex.h>
-#include <sivane/foundation/multilingual_name.h>
+#include <sivane/foundation/length_prefixed_string.h>
+#include <sivane/foundation/multilingual_name_info.h>
 #include <sivane/foundation/reader.h>
+#include <sivane/foundation/section_size.h>
 #include <sivane/foundation/text.h>
 #include <sivane/foundation/time.h>
 

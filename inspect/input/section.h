@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/foundation/section_size.h>
+
 #include <cstddef>
 #include <span>
 #include <string_view>
@@ -27,7 +29,7 @@ inline constexpr std::size_t section_start_size = 3;
 
 /// The whole size that the first three bytes of a section claim.
 inline std::size_t claimed_size(unsigned char const* section) {
-  return static_cast<std::size_t>((section[1] & 0x0F) << 8 | section[2]) + section_start_size;
+  return static_cast<std::size_t>(sivane::section_size(section));
 }
 
 }  // namespace inspect

@@ -10,8 +10,6 @@ namespace {
 
 constexpr unsigned char stuffing = 0xFF;
 
-int size_of_section(unsigned char const* header) { return ((header[1] & 0xF) << 8 | header[2]) + 3; }
-
 }  // namespace
 
 void Demux::PidHandler::Assembly::take(int pid, bool unit_start, unsigned char const* payload, int size) {
@@ -59,7 +57,7 @@ void Demux::PidHandler::Assembly::take_starts(unsigned char const* data, int siz
 
 int Demux::PidHandler::Assembly::take_start(unsigned char const* data, int size) {
   begin_section(data[0]);
-  int const whole = size >= header_size ? size_of_section(data) : size + 1;
+  int const whole = size >= header_size ? section_size(data) : size + 1;
   if (whole > size) return append(data, size);
   if (is_wanted_) deliver(data, whole);
   return whole;
@@ -79,7 +77,7 @@ int Demux::PidHandler::Assembly::append(unsigned char const* data, int size) {
     if (in_header || is_wanted_) std::copy_n(data + done, count, section_ + held_);
     done += count;
     held_ += count;
-    if (in_header && held_ == header_size) need_ = size_of_section(section_);
+    if (in_header && held_ == header_size) need_ = section_size(section_);
   }
   if (held_ >= header_size && held_ == need_) {
     held_ = 0;

@@ -5,6 +5,7 @@
 #include <sivane/demux/counters.h>
 #include <sivane/demux/packet.h>
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/section_size.h>
 
 #include <cstddef>
 #include <cstdint>
@@ -101,7 +102,7 @@ class SIVANE_API Demux {
     /// Makes room for the next section.
     void close();
     /// The whole size that the header claims, 3 to 4098.
-    int need() const { return ((section[1] & 0xF) << 8 | section[2]) + 3; }
+    int need() const { return sivane::section_size(section); }
 
     unsigned char section[capacity] = {};  ///< from its table id on
     int section_size = 0;                  ///< bytes held

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/application.h>
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 
 #include <algorithm>
 
@@ -26,7 +26,8 @@ DescriptorAitApplication::DescriptorAitApplication(DescriptorBytes d) : Descript
   Reader r = d.body();
   application_profiles_length = r.u8();
   if (application_profiles_length % 5 != 0) r.fail(mismatch, -1);
-  application_profiles = r.sub(application_profiles_length).records<ApplicationProfile>(5, mismatch);
+  application_profiles =
+      r.sub(application_profiles_length).records<ApplicationProfile>(5, mismatch);
   service_bound_flag = r.bits(1);
   visibility = r.bits(2);
   r.skip_bits(5);

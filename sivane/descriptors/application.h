@@ -6,8 +6,8 @@
 #pragma once
 
 #include <sivane/descriptors/descriptor.h>
-#include <sivane/foundation/text.h>
-#include <sivane/foundation/time.h>
+#include <sivane/foundation/application_identifier.h>
+#include <sivane/foundation/length_prefixed_string.h>
 
 #include <string>
 #include <vector>

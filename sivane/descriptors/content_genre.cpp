@@ -137,10 +137,11 @@ char const* DescriptorContent::Content::get_content_nibble_level1_text() const {
 }
 
 char const* DescriptorContent::Content::get_content_nibble_level2_text() const {
-  int const index = content_nibble_level1 * 16 + content_nibble_level2 - 16;
+  long long const index =
+      content_nibble_level1 * 16LL + content_nibble_level2 - 16;  // documents hold any int
   constexpr int count = static_cast<int>(sizeof level2_texts / sizeof *level2_texts) * 16;
   if (index < 0 || index >= count) return undefined;
-  return value_text(level2_texts[index / 16], index % 16, undefined);
+  return value_text(level2_texts[index / 16], static_cast<int>(index % 16), undefined);
 }
 
 }  // namespace sivane

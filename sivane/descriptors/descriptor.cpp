@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/descriptor.h>
-#include <sivane/foundation/dump.h>
 #include <sivane/foundation/dump_line.h>
+#include <sivane/foundation/dump_lines.h>
 
 #include <iomanip>
 #include <ostream>

@@ -33,6 +33,9 @@ class SIVANE_API DescriptorBase {
   /// Saves them on the descriptor's element, which `document` has made. False once it refuses.
   bool SaveSection(void* document, void* element) const;
 
+  DescriptorBase& operator=(DescriptorBase const&) = default;
+  DescriptorBase& operator=(DescriptorBase&&) = default;
+
   int tag = 0;     ///< descriptor_tag, 8 bits
   int length = 0;  ///< descriptor_length, 8 bits: the bytes of the body
 
@@ -42,8 +45,6 @@ class SIVANE_API DescriptorBase {
   explicit DescriptorBase(DescriptorBytes descriptor) : tag(descriptor.tag()), length(descriptor.length()) {}
   DescriptorBase(DescriptorBase const&) = default;
   DescriptorBase(DescriptorBase&&) = default;
-  DescriptorBase& operator=(DescriptorBase const&) = default;
-  DescriptorBase& operator=(DescriptorBase&&) = default;
   ~DescriptorBase() = default;
 };
 

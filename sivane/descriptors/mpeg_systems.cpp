@@ -2,8 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/mpeg_systems.h>
 #include <sivane/descriptors/value_text.h>
-#include <sivane/foundation/dump.h>
 #include <sivane/foundation/dump_line.h>
+#include <sivane/foundation/dump_lines.h>
 
 #include <ostream>
 

@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/service.h>
 #include <sivane/descriptors/value_text.h>
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 
 #include <ostream>
 

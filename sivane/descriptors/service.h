@@ -6,7 +6,7 @@
 #pragma once
 
 #include <sivane/descriptors/descriptor.h>
-#include <sivane/foundation/multilingual_name.h>
+#include <sivane/foundation/multilingual_name_info.h>
 
 #include <string>
 #include <vector>

@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump.h>
 #include <sivane/foundation/dump_line.h>
+#include <sivane/foundation/dump_lines.h>
 
 #include <algorithm>
 

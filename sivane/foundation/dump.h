@@ -4,57 +4,12 @@
 
 #include <sivane/foundation/export.h>
 
-#include <ostream>
-#include <string>
-#include <vector>
+#include <iosfwd>
 
 namespace sivane {
-
-class DateTime;
-class Duration;
-class TimeOffset;
 
 /// Writes bytes as lines of 16: each as a two-wide hexadecimal number and a blank, then " : ", then the
 /// letters among them with a dot for any other byte. The stream stays hexadecimal. No bytes, no line.
 SIVANE_API void dump_block(std::ostream& os, unsigned char const* data, int size);
-
-/// What all dumps of the library are made of: one item a line, the label first and the value right after it.
-/// Every line ends with a flush. Base, fill and case of numbers are the stream's and stay as they are.
-namespace dump {
-
-/// A number as `operator<<` writes it, at least `width` characters wide, in the stream's fill.
-SIVANE_API void line(std::ostream& os, char const* label, int value, int width = 0);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, unsigned int value);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, unsigned long value, int width = 0);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, double value);
-/// The byte itself, not its number.
-SIVANE_API void line(std::ostream& os, char const* label, unsigned char value);
-/// Text up to its first zero byte, raw.
-SIVANE_API void line(std::ostream& os, char const* label, char const* value);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, std::string const& value);
-
-/// As `operator<<` of them: the stream becomes decimal.
-SIVANE_API void line(std::ostream& os, char const* label, DateTime const& value);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, Duration const& value);
-/// The same.
-SIVANE_API void line(std::ostream& os, char const* label, TimeOffset const& value);
-
-/// A heading on a line of its own, then the bytes as `dump_block` writes them.
-SIVANE_API void block(std::ostream& os, char const* heading, std::vector<unsigned char> const& bytes);
-/// The same, and nothing at all for no bytes.
-SIVANE_API void block_if_any(std::ostream& os, char const* heading, std::vector<unsigned char> const& bytes);
-
-/// The `dump_state` of each element, in order.
-template <class Elements>
-void each(std::ostream& os, Elements const& elements) {
-  for (auto const& element : elements) element.dump_state(os);
-}
-
-}  // namespace dump
 
 }  // namespace sivane

@@ -36,6 +36,7 @@ void Reader::fail(Failure failure, int distance) const {
 
 Reader Reader::sub(int size, Failure overrun) {
   Reader const own = loop(size, overrun);
+  if (bits_of(size) > limit_ - position_) own.fail(overrun);
   raw(size);
   return own;
 }

@@ -77,7 +77,7 @@ class SIVANE_API Reader {
 
   /// A reader of the next `size` bytes with the same limit, and steps over them.
   Reader sub(int size) { return sub(size, overrun_); }
-  /// The same with another failure for what is read from it.
+  /// The same with another failure, where the bytes pass the limit and for what is read from them.
   Reader sub(int size, Failure overrun);
   /// The descriptor that starts here, and steps over it; throws the reader's failure if it passes the limit.
   DescriptorBytes descriptor();

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump_line.h>
 #include <sivane/foundation/text.h>
 
 namespace sivane {
@@ -22,17 +21,6 @@ void Text::parse(int length, unsigned char const* data) {
 bool Text::is_char_table(char c) {
   auto const byte = static_cast<unsigned char>(c);
   return byte <= 0x06 || (byte >= 0x0F && byte <= 0x12) || byte == 0x1F;
-}
-
-LengthPrefixedString::LengthPrefixedString(unsigned char const* data, int /*size*/, int& used)
-    : LengthPrefixedString(read_record<LengthPrefixedString>(Reader::trusting(data), used)) {}
-
-LengthPrefixedString::LengthPrefixedString(Reader& reader)
-    : length(reader.u8()), value(reader.string(length)) {}
-
-void LengthPrefixedString::dump_state(char const* label, std::ostream& os) const {
-  dump::Line(os).text(label).text("_length: ").number(length).end();
-  dump::Line(os).text(label).text(": ").text(value.c_str()).end();
 }
 
 }  // namespace sivane

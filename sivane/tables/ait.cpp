@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/tables/ait.h>
 #include <sivane/tables/entry.h>
 
@@ -18,8 +18,7 @@ constexpr Failure applications_mismatch{error::length_error, "application length
 }  // namespace
 
 Ait::Application::Application(unsigned char const* data, int available, int& consumed) {
-  require_head(available, entry_head_size, application_too_small);
-  Reader reader = entry_reader(data, entry_head_size, applications_mismatch);
+  Reader reader = Reader::within(data, available, applications_mismatch);
   *this = Application(reader);
   consumed = reader.consumed();
 }

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <sivane/descriptors/ait_descriptor_set.h>
+#include <sivane/foundation/application_identifier.h>
 #include <sivane/foundation/export.h>
 #include <sivane/foundation/reader.h>
-#include <sivane/foundation/time.h>
 #include <sivane/tables/section.h>
 
 #include <iosfwd>
@@ -27,7 +27,8 @@ class SIVANE_API Ait final : public PsiTableBase, public AitDescriptorSet {
   class SIVANE_API Application : public AitDescriptorSet {
    public:
     Application() = default;
-    /// `available` is the bytes left in the loop, `consumed` those taken.
+    /// `available` is the bytes left in the loop, and nothing behind them is read; `consumed` those taken.
+    /// Throws "application length to small" where fewer than 9 are left.
     Application(unsigned char const* data, int available, int& consumed);
     /// From where the reader is, and steps over it.
     explicit Application(Reader& reader);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/tables/eit.h>
 #include <sivane/tables/entry.h>
 

@@ -25,7 +25,9 @@ class SIVANE_API Eit final : public PsiTableBase {
   class SIVANE_API EventInfo : public DescriptorSet {
    public:
     EventInfo() = default;
-    /// `size` is the bytes consumed on the way out; on the way in it is not looked at.
+    /// `size` is the bytes consumed on the way out, 12 and `descriptors_length`; on the way in it is not
+    /// looked at: the bytes that `descriptors_length` claims must be there. Throws "descriptor start end
+    /// mismatch" where a descriptor would leave them.
     EventInfo(unsigned char const* data, int& size);
     /// From where the reader is, and steps over it.
     explicit EventInfo(Reader& reader);

@@ -14,11 +14,6 @@ inline int length_field(Reader& reader) {
   return reader.bits(12);
 }
 
-/// Throws `failure` where an entry's head does not fit in what is left for it.
-inline void require_head(int available, int head_size, Failure failure = too_little_data) {
-  if (available < head_size) raise(failure);
-}
-
 /// A reader of the entry at a bare pointer, whose own length field is its only bound.
 inline Reader entry_reader(unsigned char const* data, int head_size, Failure overrun) {
   Reader head = Reader::trusting(data);

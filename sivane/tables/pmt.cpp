@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/tables/entry.h>
 #include <sivane/tables/pmt.h>
 
@@ -40,8 +40,7 @@ void append(std::vector<DescriptorCa>& out, std::vector<DescriptorCa> const& mor
 }  // namespace
 
 PmtStreamInfo::PmtStreamInfo(_PMT_INFO* entry, int& size) {
-  require_head(size, entry_head_size);
-  Reader reader = entry_reader(entry->bytes, entry_head_size, start_end_mismatch);
+  Reader reader = Reader::within(entry->bytes, size, start_end_mismatch);
   *this = PmtStreamInfo(reader);
   size = reader.consumed();
 }

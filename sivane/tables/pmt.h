@@ -22,8 +22,10 @@ struct _PMT_INFO {         // NOLINT(bugprone-reserved-identifier): its name in 
 class SIVANE_API PmtStreamInfo : public DescriptorSet {
  public:
   PmtStreamInfo() = default;
-  /// `size` is the bytes left in the loop on the way in, those consumed on the way out. Throws "too little
-  /// data" where fewer than 5 are left. A last descriptor that runs over the entry is not noticed.
+  /// `size` is the bytes left in the loop on the way in, and nothing behind them is read; on the way out
+  /// those consumed, 5 and `es_info_length`. Throws "too little data" where fewer than 5 are left (so for a
+  /// size of 0 or below), "descriptor start end mismatch" where the descriptors leave what is left. A last
+  /// descriptor that runs over the entry and stays within `size` is not noticed.
   PmtStreamInfo(_PMT_INFO* entry, int& size);
   /// From where the reader is, and steps over it.
   explicit PmtStreamInfo(Reader& reader);

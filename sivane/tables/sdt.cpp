@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/tables/entry.h>
 #include <sivane/tables/sdt.h>
 
@@ -14,8 +14,7 @@ constexpr int reserved_byte = 8;
 }  // namespace
 
 Sdt::Service_info::Service_info(unsigned char const* data, int& size) {
-  require_head(size, entry_head_size);
-  Reader reader = entry_reader(data, entry_head_size, start_end_mismatch);
+  Reader reader = Reader::within(data, size, start_end_mismatch);
   *this = Service_info(reader);
   size = reader.consumed();
 }

@@ -24,7 +24,10 @@ class SIVANE_API Sdt final : public PsiTableBase {
   class SIVANE_API Service_info : public DescriptorSet {
    public:
     Service_info() = default;
-    /// `size` is the bytes available on the way in, those consumed on the way out.
+    /// `size` is the bytes available on the way in, and nothing behind them is read; on the way out those
+    /// consumed, 5 and the length of the descriptors. Throws "too little data" where fewer than 5 are
+    /// available (so for a size of 0 or below), "descriptor start end mismatch" where the descriptors leave
+    /// what is available.
     Service_info(unsigned char const* data, int& size);
     /// From where the reader is, and steps over it.
     explicit Service_info(Reader& reader);

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/foundation/error.h>
+#include <sivane/foundation/section_size.h>
 #include <sivane/foundation/trace_log.h>
 #include <sivane/tables/crc.h>
 #include <sivane/tables/section.h>
@@ -21,9 +22,7 @@ constexpr int crc_size = 4;
 
 int syntax_bit(unsigned char const* section) { return section[1] >> 7; }
 
-int length_field(unsigned char const* section) { return (section[1] & 0xF) << 8 | section[2]; }
-
-int section_size(unsigned char const* section) { return length_field(section) + short_header_size; }
+int length_field(unsigned char const* section) { return section_size(section) - short_header_size; }
 
 void require_whole(unsigned char const* section, std::size_t available) {
   if (available < short_header_size || available < static_cast<std::size_t>(section_size(section))) {

@@ -51,6 +51,10 @@ class SIVANE_API PsiTableBase {
   /// The same as `Parse(section)` for `available` bytes; "too little data" if the section does not fit in
   /// them.
   void Parse(unsigned char const* section, std::size_t available);
+  // Bytes of another type would be taken for a node.
+  void Parse(char const* section) = delete;
+  void Parse(signed char const* section) = delete;
+  void Parse(std::byte const* section) = delete;
   /// `table_id`.
   int get_table_id() const { return table_id; }
   /// Empties the containers and clears `valid`; the numbers stay.
@@ -131,6 +135,10 @@ class SIVANE_API PsiBase {
 
   /// As `PsiTableBase::Parse` of as many bytes.
   void Parse(unsigned char const* section, std::size_t available);
+  // Bytes of another type would be taken for a node.
+  void Parse(char const* section) = delete;
+  void Parse(signed char const* section) = delete;
+  void Parse(std::byte const* section) = delete;
   /// Prints its lines.
   void dump_state(std::ostream& os) const;
 

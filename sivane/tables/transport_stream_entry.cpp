@@ -13,8 +13,7 @@ constexpr int entry_head_size = 6;
 }  // namespace
 
 TransportStreamEntry::TransportStreamEntry(unsigned char const* data, int& size) {
-  require_head(size, entry_head_size);
-  Reader reader = entry_reader(data, entry_head_size, start_end_mismatch);
+  Reader reader = Reader::within(data, size, start_end_mismatch);
   *this = TransportStreamEntry(reader, size);
   size = reader.consumed();
 }

@@ -13,8 +13,10 @@ namespace sivane {
 class SIVANE_API TransportStreamEntry : public DescriptorSet {
  public:
   TransportStreamEntry() = default;
-  /// `size` is the bytes available on the way in, those consumed on the way out. Throws "too little data"
-  /// where fewer than 6 are available.
+  /// `size` is the bytes available on the way in, and nothing behind them is read; on the way out those
+  /// consumed, 6 and the length of the descriptors. Throws "too little data" where fewer than 6 are available
+  /// (so for a size of 0 or below), "descriptor start end mismatch" where the descriptors leave what is
+  /// available.
   TransportStreamEntry(unsigned char const* data, int& size);
   /// From where the reader is; `available` bytes are left in the loop.
   TransportStreamEntry(Reader& reader, int available);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/application_identifier.h>
 #include <sivane/foundation/error.h>
 #include <sivane/foundation/text.h>
 #include <sivane/foundation/time.h>

@@ -2,7 +2,9 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Values that several descriptors hold as elements.
-#include <sivane/foundation/multilingual_name.h>
+#include <sivane/foundation/application_identifier.h>
+#include <sivane/foundation/length_prefixed_string.h>
+#include <sivane/foundation/multilingual_name_info.h>
 #include <sivane/foundation/text.h>
 #include <sivane/foundation/time.h>
 #include <sivane/xml/archive.h>

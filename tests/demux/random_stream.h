@@ -132,7 +132,7 @@ class SecondReading {
     if (!open_.empty() && open_[0] == 0xFF) open_.clear();
   }
   bool takes_one() {
-    int const size = open_.size() < 3 ? 4099 : ((open_[1] & 0xF) << 8 | open_[2]) + 3;
+    int const size = open_.size() < 3 ? 4099 : section_size(open_.data());
     if (size > static_cast<int>(open_.size())) return false;
     sections.push_back(part(open_, 0, size));
     open_.erase(open_.begin(), open_.begin() + size);

@@ -50,7 +50,7 @@ class RecordingHost : public Driver {
     section[0] = 0xEE;  // every filter has its own copy
   }
   void on_psi_section(int pid, int table_id, int number, unsigned char const* section) override {
-    sections.emplace_back(section, section + ((section[1] & 0xF) << 8 | section[2]) + 3);
+    sections.emplace_back(section, section + section_size(section));
     note("section " + std::to_string(pid) + ' ' + std::to_string(table_id) + ' ' + std::to_string(number));
   }
 

@@ -125,7 +125,7 @@ TEST(Reader, ReadersOfAPartShareTheLimitAndALoopMayClaimMore) {
   check(reader.loop(99, named), 99);
   check(reader.sub(2, named), 2);
   EXPECT_EQ(reader.consumed(), 3);
-  EXPECT_TRUE(throws([&] { reader.sub(3, named); }, "too little data"));
+  EXPECT_TRUE(fails_named([&] { reader.sub(3, named); }));
   EXPECT_EQ(reader.sub(2, named).rest(), (Bytes{4, 5}));
 }
 

@@ -4,8 +4,10 @@
 // What becomes text and comes from text: DVB text fields, hexadecimal digits, dumps.
 #include <gtest/gtest.h>
 #include <sivane/foundation/dump.h>
+#include <sivane/foundation/dump_lines.h>
 #include <sivane/foundation/hex.h>
-#include <sivane/foundation/multilingual_name.h>
+#include <sivane/foundation/length_prefixed_string.h>
+#include <sivane/foundation/multilingual_name_info.h>
 #include <sivane/foundation/text.h>
 #include <sivane/foundation/time.h>
 

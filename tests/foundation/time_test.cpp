@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <gtest/gtest.h>
+#include <sivane/foundation/application_identifier.h>
 #include <sivane/foundation/time.h>
 
 #include <chrono>

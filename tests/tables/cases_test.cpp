@@ -180,7 +180,9 @@ struct Tally {
   int thrown = 0;
 };
 
-std::size_t claimed_size(Bytes const& section) { return 3u + (section[1] & 0xFu) * 256u + section[2]; }
+std::size_t claimed_size(Bytes const& section) {
+  return static_cast<std::size_t>(section_size(section.data()));
+}
 
 /// Parses a damaged section with its checksum put right; one that claims more than there is must say so.
 template <class Table>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
-#include <sivane/foundation/dump.h>
-#include <sivane/foundation/multilingual_name.h>
+#include <sivane/foundation/dump_lines.h>
+#include <sivane/foundation/multilingual_name_info.h>
 
 namespace sivane {
 
