@@ -11,6 +11,7 @@
 #include <sivane/foundation/hex.h>
 #include <sivane/foundation/length_prefixed_string.h>
 #include <sivane/foundation/multilingual_name_info.h>
+#include <sivane/foundation/parse_options.h>
 #include <sivane/foundation/reader.h>
 #include <sivane/foundation/section_size.h>
 #include <sivane/foundation/text.h>

@@ -104,6 +104,54 @@ class TablesOnce final : public sivane::DemuxPush {
   sivane::SeenSections seen_;
 };
 
+// Damaged tables, and only what is needed
+
+void print_events(unsigned char const* section, std::size_t size) {
+  sivane::ParseOptions options;
+  options.build_only({0x4D, 0x54});  // short event and content descriptors
+  sivane::Eit eit;
+  eit.Parse(section, size, options);
+  for (sivane::Eit::EventInfo const& event : eit.event_infos) {
+    for (sivane::DescriptorShortEvent const& text : event.get_short_event_descriptors()) {
+      std::cout << "event " << event.event_id << ": " << text.event_name << '\n';
+    }
+  }
+  for (sivane::ParseProblem const& problem : options.problems) {
+    std::cout << "byte " << problem.offset << ", tag " << problem.tag << ": " << problem.text << '\n';
+  }
+}
+
+std::vector<std::string> event_names(unsigned char const* section) {
+  constexpr int crc_size = 4, bytes_before_events = 14, id_time_and_duration = 10;
+  std::vector<std::string> names;
+  sivane::Reader reader = sivane::Reader::within(section, sivane::section_size(section) - crc_size);
+  reader.raw(bytes_before_events);
+  while (reader.more()) {
+    reader.raw(id_time_and_duration);
+    reader.skip_bits(4);
+    int const length = reader.bits(12);
+    unsigned char const* const loop = reader.raw(length);
+    for (sivane::DescriptorBytes const descriptor : sivane::DescriptorLoop(loop, length)) {
+      if (descriptor.tag() != 0x4D) continue;
+      names.push_back(sivane::DescriptorShortEvent(descriptor).event_name);
+    }
+  }
+  return names;
+}
+
+class Events final : public sivane::DemuxPush {
+ public:
+  Events() { add_psi_handler(0x0012, 0x4E); }
+
+  std::size_t names = 0;
+
+ protected:
+  void on_psi_section(int, int, int, unsigned char const* section) override {
+    print_events(section, static_cast<std::size_t>(sivane::section_size(section)));
+    names += event_names(section).size();
+  }
+};
+
 // Services of a stream
 
 class ServiceNames final : public sivane::DemuxPush {
@@ -200,10 +248,11 @@ int main(int argc, char** argv) {
   TablesOnce tables;
   ServiceNames services;
   PresentEvents present;
+  Events programme;
   bool const whole =
       receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0 &&
       tables.push_data(stream.data(), size) == 0 && services.push_data(stream.data(), size) == 0 &&
-      present.push_data(stream.data(), size) == 0;
+      present.push_data(stream.data(), size) == 0 && programme.push_data(stream.data(), size) == 0;
   std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections, "
             << tables.parsed << " versions of the services\n";
 
@@ -222,6 +271,6 @@ int main(int argc, char** argv) {
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
   bool const found = tables.parsed == 2 && receiver.program_maps > 0 && events.sections > 0 &&
-                     !services.names.empty() && !present.names.empty();
+                     !services.names.empty() && !present.names.empty() && programme.names > 0;
   return whole && found && survives ? 0 : 1;
 }

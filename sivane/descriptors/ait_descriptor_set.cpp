@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_storage.h>
+#include <sivane/foundation/parse_state.h>
 
 #define SIVANE_SET AitDescriptorSet
 #define SIVANE_SET_ROWS <sivane/descriptors/ait_descriptor_rows.inc>
@@ -14,9 +15,22 @@ void AitDescriptorSet::ParseDescriptorAit(DescriptorBytes descriptor) {
   rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
 }
 
+void AitDescriptorSet::file_as_bytes(DescriptorBytes descriptor) {
+  int const row = descriptor.tag() < 0x80 ? row_number::get_general_descriptors
+                                          : row_number::get_user_private_descriptors;
+  rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
+}
+
 void AitDescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
-  reader.descriptor_loop(size, failure, end, [this](DescriptorLoop& loop) {
+  ParseState* const state = reader.state();
+  if (state != nullptr && state->has_options()) {
+    return file_descriptors(
+        reader, size, failure, end, [this](DescriptorBytes d) { ParseDescriptorAit(d); },
+        [this](DescriptorBytes d) { file_as_bytes(d); });
+  }
+  reader.descriptor_loop(size, failure, end, [this, state](DescriptorLoop& loop) {
     DescriptorStorage::parse(groups_, rows, row_of_tag, loop);
+    if (state != nullptr) state->charge(loop.taken(), loop.last());
   });
 }
 

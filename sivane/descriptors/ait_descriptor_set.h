@@ -19,6 +19,8 @@ class SIVANE_API AitDescriptorSet {
  public:
   /// As `DescriptorSet::ParseDescriptor`.
   void ParseDescriptorAit(DescriptorBytes descriptor);
+  /// As `DescriptorSet::file_as_bytes`.
+  void file_as_bytes(DescriptorBytes descriptor);
   /// As `DescriptorSet::parse_descriptors`.
   void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);
   /// Empties the vector of `get_general_descriptors`.

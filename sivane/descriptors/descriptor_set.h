@@ -28,6 +28,9 @@ class SIVANE_API DescriptorSet {
   /// Builds the class of the descriptor's tag and appends it to its vector. A descriptor that throws is not
   /// filed; those before it stay.
   void ParseDescriptor(DescriptorBytes descriptor);
+  /// Appends it with its bytes, whatever its tag: to the user private descriptors from 0x80 on, to the
+  /// general ones below.
+  void file_as_bytes(DescriptorBytes descriptor);
   /// Files the descriptors that start within the next `size` bytes of `reader`, and steps over those bytes.
   /// Throws `failure` where one would leave the section, or, if the loop's end is `exact`, the bytes.
   void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);

@@ -38,7 +38,12 @@ struct SIVANE_API DescriptorBytes {
 enum class LoopEnd { open, exact };
 
 /// Descriptors one after the other in `size` bytes. The last one may run over them, but none over the limit,
-/// which is the end of the section.
+/// which is the end of the section. A host that wants one of them needs no set: what is not built costs
+/// nothing.
+///
+///     for (DescriptorBytes const descriptor : DescriptorLoop(bytes, size)) {
+///       if (descriptor.tag() == 0x4D) use(DescriptorShortEvent(descriptor));
+///     }
 class DescriptorLoop {
  public:
   /// `limit` bytes from `first` on may be read; `begin` is the offset of `first` in the section, -1 for none.
@@ -47,6 +52,20 @@ class DescriptorLoop {
       : first_(first), size_(size), limit_(limit), failure_(failure), begin_(begin) {}
 
   /// Whether another one starts in the loop.
+  /// `size` bytes of which nothing more is known: a descriptor that leaves them throws "descriptor start end
+  /// mismatch".
+  DescriptorLoop(unsigned char const* first, int size)
+      : DescriptorLoop(first, size, size, {error::no_errorcode, "descriptor start end mismatch"}, -1) {}
+
+  class iterator;
+  /// What an iterator is compared with.
+  struct end_of_loop {};
+  /// At the next one.
+  iterator begin() const;
+  /// Where there are no more.
+  end_of_loop end() const { return {}; }
+
+  /// Whether a further one begins within the loop.
   bool more() const { return next_ < size_; }
   /// The next one; throws where it passes the limit.
   DescriptorBytes next() {
@@ -59,6 +78,11 @@ class DescriptorLoop {
   void close(LoopEnd end) const {
     if (end == LoopEnd::exact && next_ > size_) raise(failure_, offset());
   }
+
+  /// The bytes of those that were taken.
+  int taken() const { return next_; }
+  /// Where in the section the last of them begins; -1 where there is none.
+  int last() const { return offset(); }
 
   /// How many descriptors of the next one's tag follow each other from here.
   std::size_t run() const {
@@ -91,5 +115,27 @@ class DescriptorLoop {
   Failure failure_;
   int begin_;
 };
+
+/// For a loop over them: going on to one that leaves the limit throws.
+class DescriptorLoop::iterator {
+ public:
+  /// At the next one of `loop`.
+  explicit iterator(DescriptorLoop const& loop) : loop_(loop) {}
+
+  /// The descriptor; throws where it leaves the limit.
+  DescriptorBytes operator*() const { return DescriptorLoop(loop_).next(); }
+  /// Goes on behind it.
+  iterator& operator++() {
+    loop_.next();
+    return *this;
+  }
+  /// Whether there is one.
+  bool operator!=(end_of_loop) const { return loop_.more(); }
+
+ private:
+  DescriptorLoop loop_;
+};
+
+inline DescriptorLoop::iterator DescriptorLoop::begin() const { return iterator(*this); }
 
 }  // namespace sivane

@@ -41,6 +41,11 @@ Reader Reader::sub(int size, Failure overrun) {
   return own;
 }
 
+void Reader::skip_loop(int size) {
+  std::size_t const end = position_ + bits_of(size);
+  position_ = end <= limit_ ? end : std::max(position_, std::min(end_, limit_));
+}
+
 DescriptorBytes Reader::descriptor() {
   unsigned char const* const first = at(position_);
   std::size_t const available = (limit_ - position_) / 8;

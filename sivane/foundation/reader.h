@@ -14,6 +14,8 @@
 
 namespace sivane {
 
+class ParseState;
+
 /// Reads big-endian fields of any width in order: everything in the library that reads bytes does it through
 /// here.
 ///
@@ -26,8 +28,14 @@ class SIVANE_API Reader {
  public:
   /// `size` bytes at `first` are the reader's own; `limit` bytes from `first` on may be read. `begin` is the
   /// offset of `first` in the section, -1 where there is none.
-  Reader(unsigned char const* first, int size, int limit, Failure overrun = too_little_data, int begin = -1)
-      : first_(first), end_(bits_of(size)), limit_(bits_of(limit)), overrun_(overrun), begin_(begin) {}
+  Reader(unsigned char const* first, int size, int limit, Failure overrun = too_little_data, int begin = -1,
+         ParseState* state = nullptr)
+      : first_(first),
+        end_(bits_of(size)),
+        limit_(bits_of(limit)),
+        overrun_(overrun),
+        begin_(begin),
+        state_(state) {}
   /// Exactly the bytes of a buffer.
   static Reader within(unsigned char const* first, int size, Failure overrun = too_little_data) {
     return {first, size, size, overrun};
@@ -84,7 +92,7 @@ class SIVANE_API Reader {
   /// A reader of a loop of the next `size` bytes with the same limit; this one stays where it is. The loop
   /// may claim more than the limit holds: `overrun` is thrown by the read that gets there.
   Reader loop(int size, Failure overrun) const {
-    return {at(position_), size, bytes_to_limit(), overrun, offset()};
+    return {at(position_), size, bytes_to_limit(), overrun, offset(), state_};
   }
   /// Calls `take` with each descriptor that starts within the next `size` bytes, and steps over those bytes.
   /// Throws `failure` where one passes the limit, or, if the loop's end is `exact`, the bytes themselves.
@@ -102,6 +110,9 @@ class SIVANE_API Reader {
     loop.close(end);
     raw(size);
   }
+
+  /// Steps over a loop of `size` bytes that failed: to the reader's own end if they pass the limit.
+  void skip_loop(int size);
 
   /// Records of their own sizes up to the end, after those that `found` has, each built from the reader and
   /// `arguments`; throws `failure` unless the last one ends there.
@@ -128,6 +139,8 @@ class SIVANE_API Reader {
   int consumed() const { return static_cast<int>(position_ / 8); }
   /// Bytes from the start of the section; -1 where there is none.
   int offset() const { return offset_at(position_); }
+  /// Of the `Parse` that reads the section; null where there is none.
+  ParseState* state() const { return state_; }
   /// Throws `failure`, whose place is `distance` bytes from the position: -1 for the byte that was read last.
   [[noreturn]] void fail(Failure failure, int distance = 0) const;
   /// Throws `failure` if fewer than `size` bytes of the reader's own are left.
@@ -166,6 +179,7 @@ class SIVANE_API Reader {
   std::size_t limit_;
   Failure overrun_;
   int begin_;  // where in the section `first_` is
+  ParseState* state_;
 };
 
 inline Reader DescriptorBytes::body(Failure overrun) const {

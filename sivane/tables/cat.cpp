@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/foundation/parse_state.h>
 #include <sivane/tables/cat.h>
 
 namespace sivane {
@@ -9,12 +10,17 @@ void Cat::_parse(unsigned char const* body) {
   constexpr Failure invalid_size{error::no_errorcode, "invalid descriptor size"};
   constexpr Failure invalid_tag{error::no_errorcode, "invalid descriptor tag"};
   Reader reader = body_reader(body, invalid_size);
-  while (reader.more()) {
-    DescriptorBytes const descriptor = reader.descriptor();
-    if (reader.past_end()) raise(invalid_size, descriptor.offset);
+  int const end = reader.offset() + reader.left();
+  auto const fits = [end](DescriptorBytes d) { return d.offset + 2 + d.length() <= end; };
+  auto const file = [&](DescriptorBytes descriptor) {
+    if (!fits(descriptor)) raise(invalid_size, descriptor.offset);
     if (descriptor.tag() != ca_tag) raise(invalid_tag, descriptor.offset);
     ParseDescriptor(descriptor);
-  }
+  };
+  auto const file_bytes = [&](DescriptorBytes descriptor) {
+    if (fits(descriptor)) file_as_bytes(descriptor);
+  };
+  file_descriptors(reader, reader.left(), invalid_size, LoopEnd::open, file, file_bytes);
 }
 
 void Cat::_reset() { clear_descriptors(); }

@@ -4,6 +4,7 @@
 // Internal: the body that a NIT and a BAT have in common.
 #pragma once
 
+#include <sivane/foundation/parse_state.h>
 #include <sivane/foundation/reader.h>
 #include <sivane/tables/entry.h>
 #include <sivane/tables/section.h>
@@ -20,13 +21,15 @@ void parse_network_body(Table& table, Reader reader) {
 
   int const descriptors_length = length_field(reader);
   // Where the last descriptor ends is not looked at.
-  reader.each_descriptor(descriptors_length, start_end_mismatch, [&table](DescriptorBytes descriptor) {
+  auto const file = [&table](DescriptorBytes descriptor) {
     if (descriptor.tag() == ca_tag) {
       table.ca_descriptors.emplace_back(descriptor);
     } else {
       table.ParseDescriptor(descriptor);
     }
-  });
+  };
+  file_descriptors(reader, descriptors_length, start_end_mismatch, LoopEnd::open, file,
+                   [&table](DescriptorBytes descriptor) { table.file_as_bytes(descriptor); });
 
   int const loop_length = length_field(reader);
   Reader loop = reader.loop(loop_length, start_end_mismatch);

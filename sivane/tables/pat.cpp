@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump_lines.h>
+#include <sivane/foundation/parse_state.h>
 #include <sivane/tables/pat.h>
 
 #include <ostream>
@@ -27,10 +28,10 @@ void Pat::_parse(unsigned char const* body) {
   constexpr Failure parse_error{error::length_error, "Pat parse error"};
   Reader reader = body_reader(body);
   if ((section_length - length_without_entries) % entry_size != 0) {
-    reader.fail(parse_error, reader.left() / entry_size * entry_size);
+    fail_or_list(reader, parse_error, reader.left() / entry_size * entry_size);
   }
   program_infos.reserve(program_infos.size() + static_cast<std::size_t>(reader.left() / entry_size));
-  while (reader.more()) program_infos.emplace_back(reader);
+  while (reader.left() >= entry_size) program_infos.emplace_back(reader);
 }
 
 void Pat::_reset() { program_infos.clear(); }

@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/dump_lines.h>
 #include <sivane/foundation/error.h>
+#include <sivane/foundation/parse_state.h>
 #include <sivane/foundation/section_size.h>
 #include <sivane/foundation/trace_log.h>
 #include <sivane/tables/crc.h>
@@ -47,10 +48,46 @@ void check_crc(unsigned char const* section) {
   raise({error::no_errorcode, "crc error"}, std::max(size - crc_size, 0));
 }
 
-/// The body begins behind `header` bytes of the section's `size`; the last `trailer` are no part of it.
-Reader make_body_reader(unsigned char const* body, int size, int header, int trailer, Failure overrun) {
-  if (size < header) raise(too_little_data, size);
-  return {body, size - header - trailer, size - header, overrun, header};
+/// Of a section's `size` bytes the body begins behind `header`; the last `trailer` are no part of it.
+struct Body {
+  int size, header, trailer;
+
+  Reader reader(unsigned char const* first, Failure overrun, ParseState* state) const {
+    if (size < header) raise(too_little_data, size);
+    return {first, size - header - trailer, size - header, overrun, header, state};
+  }
+};
+
+/// Tells a table of a state until the end of the scope.
+class Run {
+ public:
+  Run(RunningParse& running, ParseState& state) : running_(running), outer_(running.state) {
+    running.state = &state;
+  }
+  Run(Run const&) = delete;
+  Run& operator=(Run const&) = delete;
+  ~Run() { running_.state = outer_; }
+
+ private:
+  RunningParse& running_;
+  ParseState* outer_;
+};
+
+/// Reads a body in the state that there is, or in one of its own.
+template <class ParseBody>
+void run_body(RunningParse& running, unsigned char const* section, ParseBody parse_body) {
+  if (running.state != nullptr) return static_cast<void>(running.state->attempt(-1, parse_body));
+  ParseState strict(section_size(section), nullptr);
+  Run const run(running, strict);
+  parse_body();
+}
+
+/// Calls the table's own `Parse(section)`, which finds the options.
+template <class Table>
+void parse_with(Table& table, RunningParse& running, unsigned char const* section, ParseOptions& options) {
+  ParseState state(section_size(section), &options);
+  Run const run(running, state);
+  table.Parse(section);
 }
 
 }  // namespace
@@ -65,13 +102,18 @@ void PsiTableBase::Parse(unsigned char const* section) {
   table_id = section[0];
   if (!is_valid_tablesid()) id_failure();
   read_header(section);
-  _parse(section + long_header_size);
+  run_body(running_, section, [&] { _parse(section + long_header_size); });
   valid = true;
 }
 
 void PsiTableBase::Parse(unsigned char const* section, std::size_t available) {
   require_whole(section, available);
   Parse(section);
+}
+
+void PsiTableBase::Parse(unsigned char const* section, std::size_t available, ParseOptions& options) {
+  require_whole(section, available);
+  parse_with(*this, running_, section, options);
 }
 
 void PsiTableBase::read_header(unsigned char const* section) {
@@ -89,7 +131,8 @@ void PsiTableBase::read_header(unsigned char const* section) {
 }
 
 Reader PsiTableBase::body_reader(unsigned char const* body, Failure overrun) const {
-  return make_body_reader(body, section_length + short_header_size, long_header_size, crc_size, overrun);
+  Body const extent{section_length + short_header_size, long_header_size, crc_size};
+  return extent.reader(body, overrun, running_.state);
 }
 
 void PsiTableBase::reset() {
@@ -123,7 +166,7 @@ void PsiBase::Parse(unsigned char const* section) {
   table_id = section[0];
   if (!is_valid_tablesid()) id_failure();
   section_length = length_field(section);
-  _parse(section + short_header_size);
+  run_body(running_, section, [&] { _parse(section + short_header_size); });
   valid = true;
 }
 
@@ -132,8 +175,14 @@ void PsiBase::Parse(unsigned char const* section, std::size_t available) {
   Parse(section);
 }
 
+void PsiBase::Parse(unsigned char const* section, std::size_t available, ParseOptions& options) {
+  require_whole(section, available);
+  parse_with(*this, running_, section, options);
+}
+
 Reader PsiBase::body_reader(unsigned char const* body, Failure overrun) const {
-  return make_body_reader(body, section_length + short_header_size, short_header_size, 0, overrun);
+  Body const extent{section_length + short_header_size, short_header_size, 0};
+  return extent.reader(body, overrun, running_.state);
 }
 
 bool PsiBase::is_syntax_indicator_valid(int) const { return true; }

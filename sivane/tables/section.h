@@ -4,6 +4,7 @@
 
 #include <sivane/descriptors/descriptor.h>
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/parse_options.h>
 #include <sivane/foundation/reader.h>
 
 #include <cstddef>
@@ -12,7 +13,23 @@
 
 namespace sivane {
 
+/// Where a table keeps what the `Parse` that runs knows. A copy of the table is not being parsed.
+class RunningParse {
+ public:
+  RunningParse() = default;
+  RunningParse(RunningParse const&) noexcept {}
+  /// Leaves it as it is.
+  RunningParse& operator=(RunningParse const&) noexcept { return *this; }
+  ~RunningParse() = default;
+
+  ParseState* state = nullptr;  ///< null while no `Parse` runs
+};
+
 /// The frame of long-form sections: five header bytes after the length, and a CRC (ISO/IEC 13818-1, 2.4.4).
+///
+/// What a `Parse` builds is bounded: descriptors may overlap, but those that it files are not above 16 times
+/// the bytes of the section; one more throws "descriptors overlap too much". (In broadcasts they are at most
+/// the section's.)
 ///
 /// `Parse` adds to what the object holds: call `reset` before an object is used again. A `Parse` that throws
 /// leaves `valid` as it was, and fields and containers as far as it got. Nothing is kept of the caller's
@@ -51,6 +68,9 @@ class SIVANE_API PsiTableBase {
   /// The same as `Parse(section)` for `available` bytes; "too little data" if the section does not fit in
   /// them.
   void Parse(unsigned char const* section, std::size_t available);
+  /// The same, with a choice of what is built; unless the options say otherwise only what the frame refuses
+  /// is thrown, and all else is listed in them.
+  void Parse(unsigned char const* section, std::size_t available, ParseOptions& options);
   // Bytes of another type would be taken for a node.
   void Parse(char const* section) = delete;
   void Parse(signed char const* section) = delete;
@@ -87,6 +107,8 @@ class SIVANE_API PsiTableBase {
 
  private:
   void read_header(unsigned char const* section);
+
+  RunningParse running_;
 };
 
 /// Declares what every table class has: the operations of its frame. `_parse` of a body throws what the
@@ -135,6 +157,8 @@ class SIVANE_API PsiBase {
 
   /// As `PsiTableBase::Parse` of as many bytes.
   void Parse(unsigned char const* section, std::size_t available);
+  /// As `PsiTableBase::Parse` with options.
+  void Parse(unsigned char const* section, std::size_t available, ParseOptions& options);
   // Bytes of another type would be taken for a node.
   void Parse(char const* section) = delete;
   void Parse(signed char const* section) = delete;
@@ -156,6 +180,9 @@ class SIVANE_API PsiBase {
 
   /// A reader of a short-form body; `overrun` is thrown by a read that would pass the section.
   Reader body_reader(unsigned char const* body, Failure overrun = too_little_data) const;
+
+ private:
+  RunningParse running_;
 };
 
 }  // namespace sivane
