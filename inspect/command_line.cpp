@@ -27,6 +27,10 @@ void add_options_of_streams(CLI::App& command, Arguments& arguments) {
   command.add_option("--seconds", arguments.seconds, "End the run after so many seconds")->type_name("N");
   command.add_option("--packets", arguments.packets, "End the run after so many packets")->type_name("N");
   command.add_flag("--follow", arguments.follow, "Wait for more at the end of a file");
+  command.add_flag("--tolerant", arguments.tolerant,
+                   "A descriptor that fails costs nothing else; the lists' way without being asked");
+  command.add_flag("--strict", arguments.strict,
+                   "A descriptor that fails costs its section; the others' way");
   command.add_flag("-q,--quiet", arguments.quiet,
                    "No progress, no counts at the end; failures are still told");
 }

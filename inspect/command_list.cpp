@@ -23,17 +23,21 @@ constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Inpu
 constexpr std::span<Input const> any = all_inputs;
 constexpr std::span<Input const> bytes = any.first(3);
 
+constexpr Parsing strict = Parsing::strict, tolerant = Parsing::tolerant;
+
 constexpr CommandRow rows[] = {
-    {"dump", "Print every section as text", any, make<DumpCommand>},
-    {"xml", "Save all sections as one XML document", any, make<XmlCommand>},
-    {"sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", bytes,
+    {"dump", "Print every section as text", any, strict, make<DumpCommand>},
+    {"xml", "Save all sections as one XML document", any, strict, make<XmlCommand>},
+    {"sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", bytes, strict,
      make<SectionsCommand>},
-    {"services", "List the services with their names, types and states", bytes, make<ServicesCommand>},
-    {"events", "List the events with their times (UTC) and names", bytes, make<EventsCommand>},
+    {"services", "List the services with their names, types and states", bytes, tolerant,
+     make<ServicesCommand>},
+    {"events", "List the events with their times (UTC) and names", bytes, tolerant, make<EventsCommand>},
     {"programs",
      "List programs with their PIDs, stream types, languages, CA systems and shares of the bit rate", bytes,
-     make<ProgramsCommand>},
-    {"networks", "List networks, bouquets and CA systems with their names", bytes, make<NetworksCommand>},
+     tolerant, make<ProgramsCommand>},
+    {"networks", "List networks, bouquets and CA systems with their names", bytes, tolerant,
+     make<NetworksCommand>},
 };
 
 }  // namespace

@@ -17,12 +17,13 @@ struct CommandRow {
   using Make = std::unique_ptr<Command>(Showing const& showing);
 
   constexpr CommandRow(char const* its_name, char const* its_help, std::span<Input const> its_inputs,
-                       Make& its_make)
-      : name(its_name), help(its_help), inputs(its_inputs), make(&its_make) {}
+                       Parsing its_parsing, Make& its_make)
+      : name(its_name), help(its_help), inputs(its_inputs), parsing(its_parsing), make(&its_make) {}
 
   char const* name;
   char const* help;
   std::span<Input const> inputs;  ///< what it can read
+  Parsing parsing;                ///< unless the user chooses
   Make* make;
 };
 

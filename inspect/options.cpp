@@ -57,6 +57,12 @@ Input input_of(CommandRow const& row, std::string const& name) {
       "--input", std::string(row.name) + " reads " + listed + " and not " + name + suggestion(name, words));
 }
 
+Parsing parsing_of(CommandRow const& row, Arguments const& arguments) {
+  if (arguments.strict && arguments.tolerant) throw CLI::ValidationError("--strict", "not with --tolerant");
+  if (arguments.strict) return Parsing::strict;
+  return arguments.tolerant ? Parsing::tolerant : row.parsing;
+}
+
 void refuse_negative_numbers(Arguments const& arguments) {
   constexpr double longest = 1e9;  // which is 30 years
   if (arguments.seconds && !(*arguments.seconds >= 0 && *arguments.seconds <= longest))
@@ -88,6 +94,7 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.follow = arguments.follow;
   options.quiet = arguments.quiet;
   options.source = arguments.source;
+  options.parsing = parsing_of(row, arguments);
   refuse_what_has_no_packets(options);
   return options;
 }

@@ -19,6 +19,8 @@ struct Arguments {
   std::optional<long long> packets;
   bool follow = false;
   bool quiet = false;
+  bool tolerant = false;
+  bool strict = false;
   std::string source;
 };
 
@@ -26,6 +28,7 @@ struct Arguments {
 struct Options {
   CommandRow const* command = nullptr;
   Input input = Input::ts;
+  Parsing parsing = Parsing::strict;
   std::vector<Handle> handles;  ///< empty: the usual ones
   std::optional<double> seconds;
   std::optional<long long> packets;

@@ -61,6 +61,8 @@ ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
 }
 
 void count_failures(Command const& command) {
+  if (command.problems() > 0)
+    conclude(counted(command.problems(), "problem") + " passed over (see --strict)");
   if (command.failures() == 0) return;
   conclude(grouped(command.failures()) + " of " + counted(command.number(), "section") + " failed");
 }
@@ -74,6 +76,7 @@ ExitStatus run(Options const& options) {
   out.exceptions(std::ios::badbit);
   RunEnd end(options.seconds, [&out] { out.flush(); });
   auto const command = options.command->make({out, buffer.is_terminal()});
+  command->set_parsing(options.parsing);
   ExitStatus const status = read_all(options, *command, end);
   out.flush();
   count_failures(*command);

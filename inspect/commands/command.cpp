@@ -28,17 +28,29 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
     return nullptr;
   }
   std::unique_ptr<Table> table = table_class->make();
+  sivane::ParseOptions options;
+  options.tolerant = parsing_ == Parsing::tolerant;
+  choose_tags(options);
   try {
     if (section.node != nullptr) {
       table->load(section.node);
     } else {
-      table->parse(section.bytes);
+      table->parse(section.bytes, options);
     }
   } catch (sivane::error const& failure) {
     fail(section, {table_class->name, failure.code, failure.what(), failure.offset});
     return nullptr;
   }
+  tell_problems(section, table_class->name, options);
   return table;
+}
+
+void Command::tell_problems(Section const& section, std::string_view class_name,
+                            sivane::ParseOptions const& options) {
+  for (sivane::ParseProblem const& problem : options.problems) {
+    ++problems_;
+    report("section " + grouped(number_) + ": " + problem_text(section, class_name, problem));
+  }
 }
 
 void Command::fail(Section const& section, Failure const& failure) {

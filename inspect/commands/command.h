@@ -21,6 +21,9 @@ struct Failure {
   int offset = -1;  ///< of the byte in the section; -1 where there is none
 };
 
+/// What a descriptor that fails costs: all of its section, or nothing else and a line on standard error.
+enum class Parsing { strict, tolerant };
+
 /// What a command is made for.
 struct Showing {
   std::ostream& out;
@@ -37,6 +40,7 @@ class Command {
   bool take(Section const& section);
   /// Takes the place of a section that the input could not make out.
   void take_broken(char const* reason);
+  void set_parsing(Parsing parsing) { parsing_ = parsing; }
   /// Called once after the last section.
   virtual void finish() {}
 
@@ -46,21 +50,28 @@ class Command {
 
   int number() const { return number_; }
   int failures() const { return failures_; }
+  int problems() const { return problems_; }  ///< that tolerant parsing has passed over
 
  protected:
   virtual void show(Section const& section) = 0;
   virtual void show_failure(Failure const&) {}
+  /// Leaves those tags in the options whose descriptors are shown.
+  virtual void choose_tags(sivane::ParseOptions&) const {}
 
   /// A fresh object of the section's class, filled; null, and the failure shown, where that cannot be.
   std::unique_ptr<Table> table_of(Section const& section);
 
  private:
   void fail(Section const& section, Failure const& failure);
+  void tell_problems(Section const& section, std::string_view class_name,
+                     sivane::ParseOptions const& options);
   /// A failure of the host itself.
   void refuse(Section const& section, char const* reason);
 
   int number_ = 0;
   int failures_ = 0;
+  int problems_ = 0;
+  Parsing parsing_ = Parsing::strict;
   bool has_right_crc_ = true;  // of the latest section, as far as it was looked at
 };
 

@@ -49,6 +49,10 @@ std::array<int, 6> by_time(sivane::DateTime const& t) {
 
 }  // namespace
 
+void EventsCommand::choose_tags(sivane::ParseOptions& options) const {
+  options.build_only({0x48});  // service; the events' names are read from their bytes
+}
+
 void EventsCommand::show(Section const& section) {
   auto const table = table_of(section);
   if (!table) return;

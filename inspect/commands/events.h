@@ -27,6 +27,7 @@ class EventsCommand final : public Command {
   };
 
   void show(Section const& section) override;
+  void choose_tags(sivane::ParseOptions& options) const override;
   void take(sivane::Eit const& eit, Section const& section);
 
   std::ostream& out_;

@@ -12,4 +12,8 @@ namespace inspect {
 /// "PID 0x0010, NIT 0x40, byte 37, at 1,274,120: descriptor start end mismatch".
 std::string failure_text(Section const& section, Failure const& failure);
 
+/// The same for what a tolerant parsing has passed over, with the descriptor's tag.
+std::string problem_text(Section const& section, std::string_view class_name,
+                         sivane::ParseProblem const& problem);
+
 }  // namespace inspect

@@ -93,6 +93,10 @@ void NetworksCommand::take_group(Table const& table, Group& group) {
   }
 }
 
+void NetworksCommand::choose_tags(sivane::ParseOptions& options) const {
+  options.build_only({0x40, 0x47, 0x43, 0x44, 0x5A, 0x09, 0x53});  // names, delivery systems, CA
+}
+
 void NetworksCommand::show(Section const& section) {
   auto const table = table_of(section);
   if (!table) return;

@@ -33,6 +33,7 @@ class NetworksCommand final : public Command {
   };
 
   void show(Section const& section) override;
+  void choose_tags(sivane::ParseOptions& options) const override;
   template <class Table>
   void take_group(Table const& table, Group& group);
   static std::u32string title(Kind const& kind, int id, std::u32string const& name);

@@ -89,6 +89,11 @@ std::u32string share_text(unsigned long long packets, unsigned long long total) 
 
 }  // namespace
 
+void ProgramsCommand::choose_tags(sivane::ParseOptions& options) const {
+  options.build_only({0x48, 0x09, 0x0A, 0x45, 0x46, 0x56, 0x59, 0x6A, 0x7A, 0x7B,
+                      0x7C});  // service, CA, and what tells streams apart
+}
+
 void ProgramsCommand::show(Section const& section) {
   constexpr int last_of_programs = 0x02, actual_stream = 0x42;
   if (section.table_id() > last_of_programs && section.table_id() != actual_stream) return;

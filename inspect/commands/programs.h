@@ -34,6 +34,7 @@ class ProgramsCommand final : public Command {
   using Pids = std::map<int, Content>;
 
   void show(Section const& section) override;
+  void choose_tags(sivane::ParseOptions& options) const override;
   void take(sivane::Pat const& pat);
   void take(sivane::Cat const& cat);
   void take(sivane::Pmt const& pmt);

@@ -36,6 +36,10 @@ std::u32string access_text(Service const& service, std::set<int> const& systems)
 
 }  // namespace
 
+void ServicesCommand::choose_tags(sivane::ParseOptions& options) const {
+  options.build_only({0x48, 0x53, 0x09});  // service, CA identifier, CA
+}
+
 void ServicesCommand::show(Section const& section) {
   if (auto const table = table_of(section)) services_.take(*table);
 }

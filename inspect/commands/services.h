@@ -17,6 +17,7 @@ class ServicesCommand final : public Command {
 
  private:
   void show(Section const& section) override;
+  void choose_tags(sivane::ParseOptions& options) const override;
 
   std::ostream& out_;
   ServiceList services_;

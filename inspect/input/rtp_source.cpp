@@ -40,7 +40,7 @@ void RtpSource::report_losses() const {
   auto const& [lost, late, reordered, foreign] = order_.counts();
   if (lost > 0 || late > 0 || foreign > 0) {
     conclude(name_ + ": " + counted(lost, "RTP packet") + " lost, " + grouped(late) + " repeated or late, " +
-         grouped(reordered) + " out of order, " + counted(foreign, "datagram") + " not of RTP");
+             grouped(reordered) + " out of order, " + counted(foreign, "datagram") + " not of RTP");
   }
 }
 

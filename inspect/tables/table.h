@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/foundation/parse_options.h>
+
 #include <iosfwd>
 #include <span>
 
@@ -13,7 +15,7 @@ class Table {
   virtual ~Table() = default;
 
   /// Throws `sivane::error`, as does `load`.
-  virtual void parse(std::span<unsigned char const> section) = 0;
+  virtual void parse(std::span<unsigned char const> section, sivane::ParseOptions& options) = 0;
   /// `node` is an `IXMLDOMNode*`.
   virtual void load(void* node) = 0;
   virtual void dump(std::ostream& out) const = 0;
@@ -23,8 +25,8 @@ class Table {
 template <class Class>
 class TableOf final : public Table {
  public:
-  void parse(std::span<unsigned char const> section) override {
-    table_.Parse(section.data(), section.size());
+  void parse(std::span<unsigned char const> section, sivane::ParseOptions& options) override {
+    table_.Parse(section.data(), section.size(), options);
   }
   void load(void* node) override { table_.Parse(node); }
   void dump(std::ostream& out) const override { table_.dump_state(out); }
