@@ -16,8 +16,8 @@ namespace sivane {
 struct ParseProblem {
   int offset = -1;  ///< as `error::offset`
   int tag = -1;     ///< of the descriptor that failed, 8 bits; -1 where a loop, an entry or the body did
-  error::errorcode_enum code = error::no_errorcode;
-  std::string text;  ///< empty for the codes that have none
+  error::errorcode_enum code = error::no_errorcode;  ///< as of the `error`
+  std::string text;                                  ///< empty for the codes that have none
 };
 
 /// What a `Parse` is asked for beside the section, and what it tells beside the table. A further `Parse` adds

@@ -17,6 +17,7 @@ namespace sivane {
 class RunningParse {
  public:
   RunningParse() = default;
+  /// A copy is of no parse.
   RunningParse(RunningParse const&) noexcept {}
   /// Leaves it as it is.
   RunningParse& operator=(RunningParse const&) noexcept { return *this; }
