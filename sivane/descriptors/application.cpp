@@ -26,8 +26,7 @@ DescriptorAitApplication::DescriptorAitApplication(DescriptorBytes d) : Descript
   Reader r = d.body();
   application_profiles_length = r.u8();
   if (application_profiles_length % 5 != 0) r.fail(mismatch, -1);
-  application_profiles =
-      r.sub(application_profiles_length).records<ApplicationProfile>(5, mismatch);
+  application_profiles = r.sub(application_profiles_length).records<ApplicationProfile>(5, mismatch);
   service_bound_flag = r.bits(1);
   visibility = r.bits(2);
   r.skip_bits(5);
