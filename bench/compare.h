@@ -35,25 +35,13 @@ inline double quantile(std::vector<double> samples, double share) {
   return samples[static_cast<std::size_t>(index)];
 }
 
-/// Runs both sides once in every iteration, the first to go changing in turn, and reports how many times as
-/// long `work` takes as `yardstick`. `bytes` is what each goes through, 0 where a speed in bytes says
-/// nothing; `yardstick_name` ends the printed line.
-template <class Work, class Yardstick>
-void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_name, Work work,
-             Yardstick yardstick) {
-  std::vector<double> times;
-  std::vector<double> yardstick_times;
+/// What both sides took in each iteration, reported as how many times as long `times` are as
+/// `yardstick_times`. `bytes` is what each goes through, 0 where a speed in bytes says nothing;
+/// `yardstick_name` ends the printed line.
+inline void report(benchmark::State& state, std::size_t bytes, char const* yardstick_name,
+                   std::vector<double> const& times, std::vector<double> const& yardstick_times) {
   std::vector<double> ratios;
-  bool work_first = false;
-  for (auto _ : state) {
-    work_first = !work_first;
-    double yardstick_time = work_first ? 0 : seconds_of(yardstick);
-    times.push_back(seconds_of(work));
-    if (work_first) yardstick_time = seconds_of(yardstick);
-    yardstick_times.push_back(yardstick_time);
-    ratios.push_back(times.back() / yardstick_time);
-    state.SetIterationTime(times.back() + yardstick_time);
-  }
+  for (std::size_t i = 0; i < times.size(); ++i) ratios.push_back(times[i] / yardstick_times[i]);
   state.counters["ratio"] = quantile(ratios, 0.5);
   state.counters["low"] = quantile(ratios, 0.1);
   state.counters["high"] = quantile(ratios, 0.9);
@@ -61,6 +49,24 @@ void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_n
   state.counters["time"] = quantile(times, 0.5);
   state.counters["yardstick_time"] = quantile(yardstick_times, 0.5);
   state.SetLabel(yardstick_name);
+}
+
+/// Runs both sides once in every iteration, the first to go changing in turn, and reports them.
+template <class Work, class Yardstick>
+void compare(benchmark::State& state, std::size_t bytes, char const* yardstick_name, Work work,
+             Yardstick yardstick) {
+  std::vector<double> times;
+  std::vector<double> yardstick_times;
+  bool work_first = false;
+  for (auto _ : state) {
+    work_first = !work_first;
+    double yardstick_time = work_first ? 0 : seconds_of(yardstick);
+    times.push_back(seconds_of(work));
+    if (work_first) yardstick_time = seconds_of(yardstick);
+    yardstick_times.push_back(yardstick_time);
+    state.SetIterationTime(times.back() + yardstick_time);
+  }
+  report(state, bytes, yardstick_name, times, yardstick_times);
 }
 
 /// Iterations until both sides have taken a second together.
