@@ -7,6 +7,8 @@
 #include <sivane/dom/element_writer.h>
 #include <sivane/sivane.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -52,6 +54,30 @@ class Receiver final : public sivane::DemuxPush {
       std::cout << "stream type " << stream.stream_type << " on PID " << stream.elementary_pid << '\n';
     }
   }
+};
+
+// From bytes to tables: what to use when
+
+class OffTheAir final : public sivane::DemuxPush, public sivane::PacketFinder, public sivane::GapListener {
+ public:
+  OffTheAir() {
+    set_reassembly(sivane::Reassembly::every_section);
+    set_gap_listener(this);
+    add_psi_handler(0x0012, 0x4E);
+  }
+
+  int sections = 0;
+
+ protected:
+  void on_packets(sivane::PacketRun const& run) override { push_packets(run); }
+  void on_skipped(std::uint64_t offset, std::uint64_t size) override {
+    std::cerr << size << " bytes at " << offset << " are no packets\n";
+  }
+  void on_gap(sivane::Gap const& gap) override {
+    std::cerr << gap.missing << " packets of PID " << gap.pid << " are missing in front of " << gap.offset
+              << '\n';
+  }
+  void on_psi_section(int, int, int, unsigned char const*) override { ++sections; }
 };
 
 // Sections by a filter
@@ -244,6 +270,11 @@ int main(int argc, char** argv) {
   int const size = static_cast<int>(stream.size());
 
   Receiver receiver;
+  OffTheAir receiver_of_bytes;
+  for (std::size_t at = 0; at < stream.size(); at += 1000) {
+    receiver_of_bytes.push(stream.data() + at, std::min<std::size_t>(1000, stream.size() - at));
+  }
+  receiver_of_bytes.flush();
   EventCounter events;
   TablesOnce tables;
   ServiceNames services;
@@ -270,7 +301,8 @@ int main(int argc, char** argv) {
   sivane::init();
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));
-  bool const found = tables.parsed == 2 && receiver.program_maps > 0 && events.sections > 0 &&
-                     !services.names.empty() && !present.names.empty() && programme.names > 0;
+  bool const found = tables.parsed == 2 && receiver_of_bytes.sections >= events.sections &&
+                     receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() &&
+                     !present.names.empty() && programme.names > 0;
   return whole && found && survives ? 0 : 1;
 }

@@ -38,5 +38,12 @@ void sivane::testing::grant(int requests) { granted = requests; }
   ++live;
   return memory;
 }
+[[gnu::noinline]] void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
+  try {
+    return operator new(size);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
+}
 [[gnu::noinline]] void operator delete(void* memory) noexcept { release(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { release(memory); }
