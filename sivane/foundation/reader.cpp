@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/foundation/reader.h>
 
+#include <algorithm>
 #include <limits>
 
 namespace sivane {

@@ -59,13 +59,22 @@ KeyedLines filed(DescriptorBytes bytes) {
   return outcome;
 }
 
+/// Whether a descriptor throws that there are too few bytes. The items of an extended event have a text of
+/// their own for it.
+template <class Set>
+bool is_short(DescriptorBytes bytes) {
+  std::string const text = filed<Set>(bytes).at("throws");
+  bool const is_extended_event = std::is_same_v<Set, DescriptorSet> && bytes.tag() == 0x4E;
+  return text == too_little || (is_extended_event && text == "no_errorcode data length mismatch\n");
+}
+
 /// One whose fixed fields and inner lengths run over its end needs all that they take in the section.
 template <class Set>
 void expect_needed(Bytes const& descriptor, Bytes const& after) {
-  EXPECT_EQ(filed<Set>(DescriptorBytes(HeapBlock(descriptor).data())).at("throws"), too_little);
+  EXPECT_TRUE(is_short<Set>(DescriptorBytes(HeapBlock(descriptor).data())));
   for (auto end = after.begin(); end != after.end(); ++end) {
     HeapBlock const cut(descriptor + Bytes(after.begin(), end));
-    EXPECT_EQ(filed<Set>(descriptor_in(cut)).at("throws"), too_little);
+    EXPECT_TRUE(is_short<Set>(descriptor_in(cut)));
   }
 }
 
