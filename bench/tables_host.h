@@ -22,11 +22,11 @@ class TablesHost : public DemuxPush {
   void push(testing::Bytes const& stream) { push_data(stream.data(), static_cast<int>(stream.size())); }
 };
 
-/// Calls `use` with the table that the section is parsed into.
-template <class Use>
-void with_table(int table_id, unsigned char const* section, Use use) {
-  auto const parsed = [section](auto table) {
-    table.Parse(section);
+/// Calls `use` with the table that `parse`, given an empty one, makes of it.
+template <class Parse, class Use>
+void with_table(int table_id, Parse parse, Use use) {
+  auto const parsed = [parse](auto table) {
+    parse(table);
     return table;
   };
   if (table_id == 0x00) return use(parsed(Pat()));
@@ -34,6 +34,13 @@ void with_table(int table_id, unsigned char const* section, Use use) {
   if (table_id == 0x40) return use(parsed(Nit()));
   if (table_id == 0x42) return use(parsed(Sdt()));
   use(parsed(Eit()));
+}
+
+/// Calls `use` with the table that the section is parsed into.
+template <class Use>
+void with_table(int table_id, unsigned char const* section, Use use) {
+  with_table(
+      table_id, [section](auto& table) { table.Parse(section); }, use);
 }
 
 }  // namespace sivane::bench
