@@ -45,5 +45,9 @@ void sivane::testing::grant(int requests) { granted = requests; }
     return nullptr;
   }
 }
+// Arrays too: under the address sanitizer they do not come through the operator above.
+[[gnu::noinline]] void* operator new[](std::size_t size) { return operator new(size); }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { release(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { release(memory); }
+[[gnu::noinline]] void operator delete[](void* memory) noexcept { release(memory); }
+[[gnu::noinline]] void operator delete[](void* memory, std::size_t) noexcept { release(memory); }
