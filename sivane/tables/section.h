@@ -20,7 +20,7 @@ class RunningParse {
   /// A copy is of no parse.
   RunningParse(RunningParse const&) noexcept {}
   /// Leaves it as it is.
-  RunningParse& operator=(RunningParse const&) noexcept { return *this; }
+  RunningParse& operator=(RunningParse const&) noexcept { return *this; }  // NOLINT(*-self-assignment)
   ~RunningParse() = default;
 
   ParseState* state = nullptr;  ///< null while no `Parse` runs

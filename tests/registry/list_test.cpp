@@ -54,7 +54,7 @@ TEST(RegistryList, RefusesAMalformedLine) {
       {" 0x0002\tname", "' 0x0002'" + digits},
       {"0x0002-\tname", "''" + digits},
       {"0x0002 name", "no tab between ids and name"},
-      {"0x0002\t", "no name behind the tab"},
+      {"0x0002\t", "no name after the tab"},
       {"0x0003-0x0002\tname", "the run ends before it begins"},
       {"0x0000\tname", "begins at a lower id than the line above it"},
       {"0x0002\tname\r", "a tab or another control character in the name"},
