@@ -145,7 +145,8 @@ TEST(PacketFinder, ShortStreamsAreFoundAtTheirEnd) {
     EXPECT_EQ(finder.found.size(), 43u);
     EXPECT_EQ(finder.found.rbegin()->second, packet(42));
   });
-  for (Bytes const& none : {Bytes(), Bytes(187, 0x47), Bytes(2000, 0x22), hex("47") + Bytes(400, 0x22)}) {
+  for (Bytes const& none : {Bytes(), Bytes(187, 0x47), Bytes(2000, 0x22), hex("47") + Bytes(400, 0x22),
+                            part(stream, 0, 4 * 188) + Bytes(2000, 0x22)}) {
     find_in(none, [&](Finder const& finder) {
       EXPECT_TRUE(finder.found.empty());
       EXPECT_EQ(finder.skipped_bytes, none.size());
