@@ -121,9 +121,13 @@ class TablesOnce final : public sivane::DemuxPush {
  protected:
   void on_psi_section(int pid, int, int, unsigned char const* section) override {
     if (!seen_.is_new(pid, section)) return;
-    sivane::Sdt sdt;
-    sdt.Parse(section);
-    ++parsed;
+    try {
+      sivane::Sdt sdt;
+      sdt.Parse(section);
+      ++parsed;
+    } catch (sivane::error const& failure) {
+      std::cerr << "PID " << pid << ": " << failure.what() << '\n';
+    }
   }
 
  private:

@@ -71,5 +71,14 @@ TEST(ValueText, OfEveryValue) {
   EXPECT_EQ(listed.size(), sources.size());
 }
 
+TEST(ValueText, OfNibblesThatOnlyDocumentsHold) {
+  Content content;
+  content.content_nibble_level2 = 1;
+  for (int const level1 : {0x10000001, 0x7FFFFFFF, -0x7FFFFFFF - 1}) {
+    content.content_nibble_level1 = level1;
+    EXPECT_STREQ(content.get_content_nibble_level2_text(), genre(0).c_str()) << level1;
+  }
+}
+
 }  // namespace
 }  // namespace sivane::testing
