@@ -45,7 +45,8 @@ void push_all(Source& source, Options const& options, Host& host) {
     held += size;
     std::size_t const whole = pushable(held, options, host);
     if (host.push_data(block.data(), static_cast<int>(whole)) != 0) {
-      throw InputFault("no packet at offset " + std::to_string(host.packets() * sivane::ts_packet_size) +
+      throw InputFault(source.name() + ": no packet at offset " +
+                       std::to_string(host.packets() * sivane::ts_packet_size) +
                        ": it does not begin with 0x47; the rest is left out");
     }
     std::copy(block.data() + whole, block.data() + held, block.data());
