@@ -32,9 +32,9 @@ class RunningParse {
 /// the bytes of the section; one more throws "descriptors overlap too much". (In broadcasts they are at most
 /// the section's.)
 ///
-/// `Parse` adds to what the object holds: call `reset` before an object is used again. A `Parse` that throws
-/// leaves `valid` as it was, and fields and containers as far as it got. Nothing is kept of the caller's
-/// bytes.
+/// `Parse` adds to what the object holds, and `reset` may leave descriptors: take a fresh object for each
+/// section. A `Parse` that throws leaves `valid` as it was, and fields and containers as far as it got.
+/// Nothing is kept of the caller's bytes.
 class SIVANE_API PsiTableBase {
  public:
   /// Loads the table from its element; sets `valid`. Throws `error` where a part is missing, and checks
