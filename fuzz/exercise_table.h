@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "input.h"
+#include "saved_document.h"
 
 namespace sivane::fuzzing {
 
@@ -37,29 +38,55 @@ void empty(Table& table) {
 template <class Table>
 inline constexpr bool dumps_what_reset_leaves = std::is_same_v<Table, Ait>;
 
-/// Takes one object of a table class through its life. The first `Parse` may throw an `error`; when it has
-/// not, nothing behind it may.
+/// Whether the section was taken.
+template <class Table>
+bool parse(Table& table, unsigned char const* section, std::size_t available) {
+  try {
+    table.Parse(section, available);
+    return true;
+  } catch (error const& failure) {
+    check(failure.what() != nullptr, "what() is never null");
+    check(failure.offset <= static_cast<int>(available), "a failure is in its section");
+    return false;
+  }
+}
+
+/// Copies and moves, onto new objects and onto `used`, which holds something.
+template <class Table>
+void exercise_values(Table const& table, Table used) {
+  std::string const text = dump_of(table);
+  Table copy = table;
+  check(dump_of(copy) == text, "a copy dumps like its original");
+  Table const moved = std::move(copy);
+  check(dump_of(moved) == text, "a table dumps the same after a move");
+  used = table;
+  check(dump_of(used) == text, "an assigned table dumps like its original");
+  Table const& itself = used;
+  used = itself;
+  check(dump_of(used) == text, "a table that is assigned to itself stays as it is");
+  copy = std::move(used);  // onto what was moved from
+  check(dump_of(copy) == text, "a moved table dumps like its original");
+}
+
+/// Takes one object of a table class through its life. Each `Parse` may throw an `error`, the second as the
+/// first; nothing else may.
 template <class Table>
 void exercise_table(unsigned char const* section, std::size_t available) {
   Table table;
-  try {
-    table.Parse(section, available);
-  } catch (error const& failure) {
-    check(failure.what() != nullptr, "what() is never null");
-    return;
+  bool const parsed = parse(table, section, available);
+  check(table.valid == parsed, "a table is valid when it was parsed");
+  if (parsed) {
+    check(static_cast<std::size_t>(table.section_length) + 3 <= available, "a parsed section is whole");
   }
-  check(table.valid, "a parsed table is valid");
-  check(static_cast<std::size_t>(table.section_length) + 3 <= available, "a parsed section is whole");
   std::string const text = dump_of(table);
-  Table copy = table;
-  Table const moved = std::move(table);
-  check(dump_of(copy) == text, "a copy dumps like its original");
-  check(dump_of(moved) == text, "a table dumps the same after a move");
-  copy.Parse(section, available);
-  empty(copy);
-  copy.Parse(section, available);
+  exercise_document(table);
+  Table again = table;
+  check(parse(again, section, available) == parsed, "a section parses again");
+  exercise_values(table, again);
+  empty(again);
+  check(parse(again, section, available) == parsed, "a section parses again into an emptied table");
   if (dumps_what_reset_leaves<Table>) return;
-  check(dump_of(copy) == text, "an emptied table parses like a new one");
+  check(dump_of(again) == text, "an emptied table parses like a new one");
 }
 
 }  // namespace sivane::fuzzing

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Any bytes as a loop of descriptors that ends with its section: parse, dump, copy, destroy. Bit 0 of the
-// first byte chooses the tag space of an AIT. A descriptor that is refused ends nothing, so that every one of
-// an input gets its turn.
+// Any bytes as a loop of descriptors that ends with its section: parse, name values, dump, copy, destroy. Bit
+// 0 of the first byte chooses the tag space of an AIT. A descriptor that is refused ends nothing, so that
+// every one of an input gets its turn.
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "input.h"
+#include "value_texts.h"
 
 namespace {
 
@@ -21,6 +22,7 @@ using sivane::fuzzing::check;
 template <class Descriptor>
 void exercise(std::ostringstream& text, std::vector<Descriptor> const& descriptors) {
   for (Descriptor copy : descriptors) {
+    sivane::fuzzing::check_texts(copy);
     copy.dump_state(text);
     copy._reset();
     copy.dump_state(text);

@@ -2,7 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Any bytes as a section. The first byte chooses: bit 0, whether section_length is made to fit; bit 1,
-// whether the CRC is put right; the others, the table class.
+// whether the CRC is put right; the others, the table class, and whether the section is made longer than the
+// longest one.
 #include <sivane/sivane.h>
 
 #include <algorithm>
@@ -23,6 +24,13 @@ constexpr void (*exercises[])(unsigned char const* section, std::size_t availabl
 #define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) &exercise_table<sivane::Class>,
 #include <sivane/tables/table_rows.inc>
 };
+
+/// Repeats what follows a long-form header, so that a short input gives the longest section and bytes behind.
+void stretch(Bytes& section) {
+  constexpr std::size_t header = 8, longest = 3 + 0xFFF, behind = 100;
+  if (section.size() <= header) return;
+  for (std::size_t i = header; section.size() < longest + behind; ++i) section.push_back(section[i]);
+}
 
 void fit_length(Bytes& section) {
   std::size_t const length = std::min<std::size_t>(section.size() - 3, 0xFFF);
@@ -45,6 +53,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   sivane::fuzzing::Input input(data, size);
   unsigned int const choice = input.byte();
   Bytes bytes = input.rest();
+  if ((choice >> 2) / std::size(exercises) % 2 != 0) stretch(bytes);
   if (bytes.size() >= 3 && (choice & 1) != 0) fit_length(bytes);
   if (bytes.size() >= 3 && (choice & 2) != 0) fit_crc(bytes);
   // A block of its own size lets the address sanitizer see the first byte that is read behind it.

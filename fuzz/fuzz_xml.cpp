@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Any text as a document: each child of its root that is named after a table class is loaded, dumped, saved
-// and loaded again.
+// Any text as a document: each element that is named after a table class is loaded, dumped, saved and loaded
+// again; what descriptors any element has are loaded, and their values have texts.
 #include <sivane/dom/document.h>
 #include <sivane/sivane.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "exercise_table.h"
+#include "value_texts.h"
 
 namespace {
 
@@ -18,16 +20,8 @@ using sivane::CComPtr;
 using sivane::dom::Document;
 using sivane::fuzzing::check;
 using sivane::fuzzing::dump_of;
-
-template <class Table>
-std::string saved(Table const& table) {
-  Document document;
-  CComPtr<sivane::IXMLDOMElement> const root = document.make_root("table");
-  bool const answer = table.SaveSection(document.dom(), root.get());
-  check(answer != std::is_same_v<Table, sivane::DsmCC>,
-        "only the payload of DSM-CC has no form in documents");
-  return document.save_string();
-}
+using sivane::fuzzing::loaded;
+using sivane::fuzzing::saved;
 
 /// Loading may throw an `error`; when it has not, nothing behind it may.
 template <class Table>
@@ -41,11 +35,9 @@ void exercise(sivane::IXMLDOMNode* node) {
   }
   check(table.valid, "a loaded table is valid");
   std::string const text = saved(table);
-  Document const again = Document::load_string(text);
-  Table loaded;
-  loaded.Parse(static_cast<void*>(again.root_node().get()));
-  check(dump_of(loaded) == dump_of(table), "a table dumps the same after its document");
-  check(saved(loaded) == text, "a loaded table gives the same document");
+  Table const again = loaded<Table>(text);
+  check(dump_of(again) == dump_of(table), "a table dumps the same after its document");
+  check(saved(again) == text, "a loaded table gives the same document");
 }
 
 struct Class {
@@ -57,29 +49,47 @@ constexpr Class classes[] = {
 #include <sivane/tables/table_rows.inc>
 };
 
-void exercise_children(Document const& document) {
+void check_descriptors(sivane::IXMLDOMNode* owner) {
+  sivane::DescriptorSet set;
+  try {
+    set._parse_descriptors(owner);
+  } catch (sivane::error const& failure) {
+    check(failure.what() != nullptr, "what() is never null");
+  }
+  sivane::fuzzing::check_texts(set);
+}
+
+void exercise_element(sivane::IXMLDOMNode* element) {
+  std::u16string name;
+  check(element->get_nodeName(&name) >= 0, "every node has a name");
+  for (Class const& known : classes) {
+    if (known.name == name) known.exercise(element);
+  }
+  check_descriptors(element);
   CComPtr<sivane::IXMLDOMNodeList> children;
+  if (element->get_childNodes(children.receive()) < 0) return;  // a text or a comment
   long count = 0;
-  check(document.root_node()->get_childNodes(children.receive()) >= 0, "a root has a list of children");
   check(children->get_length(&count) >= 0, "children are counted");
   for (long i = 0; i < count; ++i) {
     CComPtr<sivane::IXMLDOMNode> child;
-    std::u16string name;
     check(children->get_item(i, child.receive()) >= 0 && child, "every child can be had");
-    check(child->get_nodeName(&name) >= 0, "every child has a name");
-    for (Class const& known : classes) {
-      if (known.name == name) known.exercise(child.get());
-    }
+    exercise_element(child.get());
+  }
+}
+
+std::optional<Document> document_of(std::string_view text) {
+  try {
+    return Document::load_string(text);
+  } catch (sivane::error const& failure) {
+    check(*failure.what() != '\0', "a refused document gets a reason");
+    return {};
   }
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-  try {
-    exercise_children(Document::load_string({reinterpret_cast<char const*>(data), size}));
-  } catch (sivane::error const& failure) {
-    check(*failure.what() != '\0', "a refused document gets a reason");
-  }
+  auto const document = document_of({reinterpret_cast<char const*>(data), size});
+  if (document) exercise_element(document->root_node().get());
   return 0;
 }

@@ -146,7 +146,8 @@ constexpr char const* table_classes[] = {
 #include <sivane/tables/table_rows.inc>
 };
 
-/// A section of each table class, with what the case files of descriptors have.
+/// A section of each table class, as it is and made longer than any, with what the case files of descriptors
+/// have.
 void write_rich_sections(fs::path const& folder) {
   std::string const all =
       one_of_each({"mpeg_systems", "network", "service", "event", "stream", "cell", "general"});
@@ -172,9 +173,12 @@ void write_rich_sections(fs::path const& folder) {
   constexpr unsigned int fitted = 3;
   unsigned int row = 0;
   for (char const* const name : table_classes) {
-    auto const choice = static_cast<unsigned char>(row++ << 2 | fitted);
-    write(folder / ("rich-" + std::string(name)),
-          Bytes{choice} + sivane::testing::assemble(sections.at(name)));
+    auto const choice = static_cast<unsigned char>(row << 2 | fitted);
+    auto const stretched = static_cast<unsigned char>((row + std::size(table_classes)) << 2 | fitted);
+    ++row;
+    Bytes const section = sivane::testing::assemble(sections.at(name));
+    write(folder / ("rich-" + std::string(name)), Bytes{choice} + section);
+    write(folder / ("long-" + std::string(name)), Bytes{stretched} + section);
   }
 }
 
@@ -201,6 +205,32 @@ void write_descriptors(fs::path const& folder) {
   write(folder / "ait-all", Bytes{ait} + sivane::testing::assemble(one_of_each({"ait"})));
 }
 
+/// Calls of every kind: `DomScript` says what they are.
+void write_dom(fs::path const& folder) {
+  Bytes const nested{0x20, 0x06, 0x00, 0x00, 0x00, 0x01, 0x00, 0x02, 0x07, 0x01};
+  Bytes const attributes{0xF0, 0x02, 0x00, 0x02, 0x41, 0x90, 0x00, 0x02, 0x00, 0x04, 0x00,
+                         0x03, 0x01, 0x00, 0x02, 0x01, 0x1F, 0x03, 0x00, 0x00, 0x03};
+  Bytes const views{0x80, 0x06, 0x00, 0x0E, 0x01, 0x04, 0x00, 0x01, 0x05, 0x00, 0x01, 0x01, 0x02, 0x01};
+  Bytes const deep{0x40, 0xFE, 0x00, 0xEE, 0x01};
+  Bytes const too_deep{0x40, 0xFE, 0x00, 0xFE, 0x01, 0x00, 0x00, 0x01, 0x02, 0x03};
+  write(folder / "nested", nested);
+  write(folder / "attributes", attributes);
+  write(folder / "views", views);
+  write(folder / "deep", deep);
+  write(folder / "too-deep", too_deep);
+}
+
+/// A descriptor that ends with the bytes, each time a longer one, for some of the classes.
+void write_records(fs::path const& folder) {
+  Bytes body;
+  for (int choice = 0; choice < 120; choice += 12) {
+    body.push_back(static_cast<unsigned char>(choice & 0x07));
+    Bytes const bytes = Bytes{static_cast<unsigned char>(choice)} +
+                        sivane::testing::make_descriptor(0x40 + choice / 12, body);
+    write(folder / ("counting-" + std::to_string(choice)), bytes);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -211,5 +241,7 @@ int main(int argc, char** argv) {
   write_sections(corpora / "sections");
   write_rich_sections(corpora / "sections");
   write_descriptors(corpora / "descriptors");
+  write_dom(corpora / "dom");
+  write_records(corpora / "records");
   return 0;
 }
