@@ -11,6 +11,7 @@
 #include <fstream>
 
 #include "expect_error.h"
+#include "temporary_folder.h"
 
 namespace sivane::testing {
 namespace {
@@ -24,23 +25,6 @@ std::string repeated(std::string const& text, int count) {
 }
 
 std::string nested(int levels) { return repeated("<a>", levels) + repeated("</a>", levels); }
-
-/// A folder of the test's own, gone at its end.
-class Folder {
- public:
-  Folder() {
-    std::string name = ::testing::TempDir() + "sivane_dom_XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder for the test");
-    path_ = name;
-  }
-  Folder(Folder const&) = delete;
-  Folder& operator=(Folder const&) = delete;
-  ~Folder() { std::filesystem::remove_all(path_); }
-  std::string file(std::string const& name) const { return path_ / name; }
-
- private:
-  std::filesystem::path path_;
-};
 
 std::string all_bytes() {
   std::string bytes;
@@ -91,7 +75,7 @@ TEST(Document, TakesTheOtherEncodings) {
 }
 
 TEST(Document, EveryByteSurvivesAFile) {
-  Folder const folder;
+  TemporaryFolder const folder;
   std::string const path = folder.file("bytes.xml");
   {
     Document document;
@@ -118,7 +102,7 @@ class OtherReaders : public ::testing::Test {
   }
 
  private:
-  Folder folder_;
+  TemporaryFolder folder_;
 };
 
 TEST_F(OtherReaders, Libxml2) {
@@ -189,7 +173,7 @@ TEST(Document, TakesWhatIsJustAllowed) {
 }
 
 TEST(Document, NamesTheFileThatFails) {
-  Folder const folder;
+  TemporaryFolder const folder;
   std::string const missing = folder.file("missing.xml"), broken = folder.file("broken.xml");
   EXPECT_TRUE(throws([&] { Document::load_file(missing); },
                      "cannot load " + missing + ": No such file or directory"));

@@ -21,48 +21,39 @@ namespace {
 
 constexpr char const* files[] = {"command_line", "dump", "lists",   "sections",
                                  "packets",      "ts",   "samples", "xml"};
+constexpr std::string_view keys[] = {"run", "try", "out", "part", "class", "err", "status"};
 
-/// A block of a case file.
+using Texts = std::vector<std::string>;
+
+/// A block of a case file: the texts of each key, and the lines that make up the input.
 struct RunCase {
   std::string title;
-  std::vector<std::string> runs, tries, parts;
+  std::map<std::string, Texts> texts;
   std::vector<Line> input;
-  std::string out, err, classes;
-  int status = 0;
 };
 
 RunCase read(Block const& block) {
-  RunCase one;
-  one.title = block.title;
+  RunCase one{block.title, {}, {}};
   for (Line const& line : block.lines) {
     auto const& [key, text] = split(line);
-    if (key == "run") {
-      one.runs.push_back(text);
-    } else if (key == "try") {
-      one.tries.push_back(text);
-    } else if (key == "out") {
-      one.out += text + '\n';
-    } else if (key == "err") {
-      one.err += text + '\n';
-    } else if (key == "part") {
-      one.parts.push_back(text);
-    } else if (key == "class") {
-      one.classes = text;
-    } else if (key == "status") {
-      one.status = std::stoi(text);
-    } else {
-      one.input.push_back(line);
-    }
+    bool const is_input = std::ranges::find(keys, key) == std::end(keys);
+    is_input ? one.input.push_back(line) : one.texts[key].push_back(text);
   }
   return one;
+}
+
+Texts lines_of(std::string const& text) {
+  std::istringstream stream(text);
+  Texts lines;
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
 }
 
 /// How many sections of each class a dump shows; "error" counts those that failed.
 std::string classes_of(std::string const& dump) {
   std::map<std::string, int> counts;
-  std::istringstream lines(dump);
   bool is_title = false;
-  for (std::string line; std::getline(lines, line);) {
+  for (std::string const& line : lines_of(dump)) {
     if (is_title && line.starts_with("error ")) ++counts["error"];
     is_title = line.starts_with("== ");
     if (is_title) ++counts[line.substr(line.rfind(' ') + 1)];
@@ -74,28 +65,26 @@ std::string classes_of(std::string const& dump) {
 }
 
 /// Whole lines with a key in front, as a case file has them: to be pasted from the message of a failure.
-std::string keyed(std::string const& key, std::string const& text) {
-  std::istringstream lines(text);
+std::string keyed(std::string const& key, Texts const& lines) {
   std::string result;
-  for (std::string line; std::getline(lines, line);)
-    result += '\n' + (key + std::string(7 - key.size(), ' ') + line);
+  for (std::string const& line : lines) result += '\n' + (key + std::string(7 - key.size(), ' ') + line);
   return result;
 }
 
-void expect_outcome(RunCase const& one, Outcome const& run) {
-  if (!one.classes.empty()) {
-    EXPECT_EQ(classes_of(run.out), one.classes);
-  } else if (one.parts.empty()) {
-    EXPECT_EQ(keyed("out", run.out), keyed("out", one.out));
+void expect_outcome(std::map<std::string, Texts> texts, Outcome const& run) {
+  if (!texts["class"].empty()) {
+    EXPECT_EQ(classes_of(run.out), texts["class"].front());
+  } else if (texts["part"].empty()) {
+    EXPECT_EQ(keyed("out", lines_of(run.out)), keyed("out", texts["out"]));
   }
-  for (std::string const& part : one.parts)
+  for (std::string const& part : texts["part"])
     EXPECT_NE(run.out.find(part), std::string::npos) << part << '\n' << run.out;
-  if (one.err == "*\n") {
-    EXPECT_EQ(line_count(run.err), 1) << run.err;
+  if (texts["err"] == Texts{"*"}) {
+    EXPECT_EQ(lines_of(run.err).size(), 1u) << run.err;
   } else {
-    EXPECT_EQ(keyed("err", run.err), keyed("err", one.err));
+    EXPECT_EQ(keyed("err", lines_of(run.err)), keyed("err", texts["err"]));
   }
-  EXPECT_EQ(run.status, one.status);
+  EXPECT_EQ(run.status, texts["status"].empty() ? 0 : std::stoi(texts["status"].front()));
 }
 
 std::string name_of(std::string const& file, std::string const& title) {
@@ -111,19 +100,18 @@ class CaseRun : public ::testing::Test {
 
  private:
   void TestBody() override {
-    bool const needs_samples = std::ranges::any_of(
-        one_.runs, [](std::string const& run) { return run.find('%') != std::string::npos; });
-    if (needs_samples && !std::filesystem::is_directory(SIVANE_SAMPLES)) GTEST_SKIP() << "no samples";
-    for (std::string const& arguments : one_.runs) {
-      if (one_.tries.empty()) run(arguments, make_input(one_.input));
-      for (std::string const& line : one_.tries) run(arguments, make_input({{"line   " + line, 0}}));
+    for (std::string const& arguments : one_.texts["run"]) {
+      bool const needs_samples = arguments.find('%') != std::string::npos;
+      if (needs_samples && !std::filesystem::is_directory(SIVANE_SAMPLES)) GTEST_SKIP() << "no samples";
+      if (one_.texts["try"].empty()) run(arguments, make_input(one_.input));
+      for (std::string const& line : one_.texts["try"]) run(arguments, make_input({{"line   " + line, 0}}));
     }
   }
 
   void run(std::string const& arguments, Bytes const& input) {
     SCOPED_TRACE(arguments + '\n' +
                  std::string(input.begin(), input.begin() + std::min<long>(300, std::ssize(input))));
-    expect_outcome(one_, inspect(arguments, input));
+    expect_outcome(one_.texts, inspect(arguments, input));
   }
 
   RunCase one_;

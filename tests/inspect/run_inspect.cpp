@@ -2,39 +2,17 @@
 // Copyright (c) 2026 the sivane authors
 #include "run_inspect.h"
 
-#include <stdlib.h>
 #include <sys/wait.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
-#include <sstream>
-#include <stdexcept>
 
 #include "file_contents.h"
+#include "temporary_folder.h"
 
 namespace sivane::testing {
 
 namespace {
-
-/// A folder of this run alone.
-class Folder {
- public:
-  Folder() {
-    std::string name = (std::filesystem::temp_directory_path() / "sivane-inspect-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
-  }
-  Folder(Folder const&) = delete;
-  Folder& operator=(Folder const&) = delete;
-  ~Folder() { std::filesystem::remove_all(path_); }
-
-  std::string file(char const* name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
-};
 
 void replace(std::string& text, std::string const& old, std::string const& by) {
   for (std::size_t at = 0; (at = text.find(old, at)) != std::string::npos; at += by.size()) {
@@ -45,7 +23,7 @@ void replace(std::string& text, std::string const& old, std::string const& by) {
 }  // namespace
 
 Outcome inspect(std::string arguments, std::string const& input) {
-  Folder const folder;
+  TemporaryFolder const folder;
   std::string const in = folder.file("in");
   std::ofstream(in, std::ios::binary) << input;
   replace(arguments, "@", in);
@@ -71,10 +49,6 @@ std::string hex_text(Bytes const& bytes) {
     text += digits;
   }
   return text;
-}
-
-int line_count(std::string const& text) {
-  return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
 }
 
 }  // namespace sivane::testing

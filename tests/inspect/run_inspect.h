@@ -21,6 +21,5 @@ Outcome inspect(std::string arguments, std::string const& input = "");
 Outcome inspect(std::string const& arguments, Bytes const& input);
 
 std::string hex_text(Bytes const& bytes);
-int line_count(std::string const& text);
 
 }  // namespace sivane::testing
