@@ -201,17 +201,4 @@ void expect_refusals_are_met(Object const& object, bool is_table, bool save_may_
   whole.dom.refuse(0);
 }
 
-/// Saved, loaded and saved again an object gives the same document, in the element's own attributes and
-/// below.
-template <class Object>
-Object expect_round_trip(Object const& object) {
-  Saved first, second;
-  EXPECT_TRUE(first.save(object));
-  Object loaded;
-  first.load(loaded);
-  EXPECT_TRUE(second.save(loaded));
-  EXPECT_EQ(second.text(), first.text());
-  return loaded;
-}
-
 }  // namespace sivane::testing
