@@ -4,8 +4,9 @@
 
 #include <sys/wait.h>
 
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
+#include <sstream>
 
 #include "file_contents.h"
 #include "temporary_folder.h"
@@ -42,13 +43,9 @@ Outcome inspect(std::string const& arguments, Bytes const& input) {
 }
 
 std::string hex_text(Bytes const& bytes) {
-  std::string text;
-  for (unsigned char const byte : bytes) {
-    char digits[3];
-    std::snprintf(digits, sizeof digits, "%02x", static_cast<unsigned int>(byte));
-    text += digits;
-  }
-  return text;
+  std::ostringstream text;
+  for (int const byte : bytes) text << std::hex << byte / 16 << byte % 16;
+  return text.str();
 }
 
 }  // namespace sivane::testing

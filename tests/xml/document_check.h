@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -40,39 +41,17 @@ std::string dump_of(Object const& object) {
   return os.str();
 }
 
-/// Where an element stands: its parents' names from the outermost on, and their children's numbers.
-struct Place {
-  std::vector<std::string> names;
-  std::vector<std::size_t> numbers;
-};
+/// The names of an element and of those that it stands in, from the outermost's child on.
+using Names = std::vector<std::string>;
 
-inline CComPtr<IXMLDOMNode> node_at(Saved const& saved, Place const& place) {
-  CComPtr<IXMLDOMNode> node(saved.element.get());
-  for (std::size_t const number : place.numbers) node = child_at(node.get(), number);
-  return node;
-}
-
-/// Every element of the tree, the outermost included.
-inline void collect(IXMLDOMNode* node, Place const& place, std::vector<Place>& places) {
-  places.push_back(place);
-  for (std::size_t i = 0; i < child_count(node); ++i) {
-    CComPtr<IXMLDOMNode> const child = child_at(node, i);
-    Place below = place;
-    below.names.push_back(name_of(child.get()));
-    below.numbers.push_back(i);
-    collect(child.get(), below, places);
-  }
-}
-
-inline std::string name_at(Place const& place, std::size_t levels_up) {
-  std::size_t const depth = place.names.size();
-  return depth > levels_up ? place.names[depth - 1 - levels_up] : "";
+inline std::string name_at(Names const& place, std::size_t levels_up) {
+  return place.size() > levels_up ? place[place.size() - 1 - levels_up] : "";
 }
 
 inline bool is_list(IXMLDOMNode* node) { return attribute_count(node) == 0; }
 
 /// What loading throws without an attribute, by where it stood.
-inline std::string failure_without_attribute(Place const& place, std::string const& attribute,
+inline std::string failure_without_attribute(Names const& place, std::string const& attribute,
                                              bool is_table) {
   std::string const names_itself = "failed to get " + attribute;
   constexpr char const* header[] = {
@@ -84,13 +63,13 @@ inline std::string failure_without_attribute(Place const& place, std::string con
     return attribute == "sid" ? "failed to get sid attribute" : "failed to get pid node";
   }
   bool const is_of_header = std::find(std::begin(header), std::end(header), attribute) != std::end(header);
-  return is_table && place.names.empty() && is_of_header ? names_itself : "failed";
+  return is_table && place.empty() && is_of_header ? names_itself : "failed";
 }
 
 /// What it throws without a child.
-inline std::string failure_without_child(Place const& place, std::string const& child, bool is_table) {
+inline std::string failure_without_child(Names const& place, std::string const& child, bool is_table) {
   if (child == "descriptors") return "failed to get descriptors node";
-  return is_table && place.names.empty() ? "failed to get program_infos node" : "failed to get " + child;
+  return is_table && place.empty() ? "failed to get program_infos node" : "failed to get " + child;
 }
 
 /// Loads what `change` leaves of a saved document; the failure's text, or nothing.
@@ -104,37 +83,38 @@ std::string failure_of_changed(Object const& object, Change change) {
   return failure ? failure->what() : "";
 }
 
+/// Finds an element in any document of the same object.
+using Find = std::function<CComPtr<IXMLDOMNode>(Saved const&)>;
+
 /// Without any one of its attributes or children a document throws the words that are laid down for it; a
-/// list may lack any of its items.
+/// list may lack any of its items. The same holds for each child.
 template <class Object>
-void expect_everything_is_needed(Object const& object, bool is_table) {
+void expect_everything_is_needed(Object const& object, bool is_table, Find const& find, Names const& place) {
   Saved whole;
   whole.save(object);
-  std::vector<Place> places;
-  collect(whole.element.get(), {}, places);
-  for (Place const& place : places) {
-    CComPtr<IXMLDOMNode> const node = node_at(whole, place);
-    for (std::size_t i = 0; i < attribute_count(node.get()); ++i) {
-      std::string name;
-      std::string const failure = failure_of_changed(
-          object, [&](Saved const& saved) { name = take_attribute(node_at(saved, place).get(), i); });
-      EXPECT_EQ(failure, failure_without_attribute(place, name, is_table))
-          << name_at(place, 0) << ' ' << name;
-    }
-    for (std::size_t i = 0; i < child_count(node.get()); ++i) {
-      std::string const name = name_of(child_at(node.get(), i).get());
-      std::string const failure =
-          failure_of_changed(object, [&](Saved const& saved) { take_child(node_at(saved, place).get(), i); });
-      EXPECT_EQ(failure, is_list(node.get()) ? "" : failure_without_child(place, name, is_table)) << name;
-    }
-    if (!is_list(node.get())) continue;
-    std::string const failure = failure_of_changed(object, [&](Saved& saved) {
-      node_at(saved, place)->appendChild(saved.dom.comment().get(), nullptr);
-    });
-    bool const skips = name_at(place, 0) == "descriptors";
-    bool const has_own_words = name_at(place, 0) == "program_infos";
-    EXPECT_EQ(failure, skips ? "" : has_own_words ? "failed to get attribute map" : "failed") << "a comment";
+  CComPtr<IXMLDOMNode> const node = find(whole);
+  for (std::size_t i = 0; i < attribute_count(node.get()); ++i) {
+    std::string name;
+    std::string const failure =
+        failure_of_changed(object, [&](Saved const& saved) { name = take_attribute(find(saved).get(), i); });
+    EXPECT_EQ(failure, failure_without_attribute(place, name, is_table)) << name_at(place, 0) << ' ' << name;
   }
+  for (std::size_t i = 0; i < child_count(node.get()); ++i) {
+    std::string const name = name_of(child_at(node.get(), i).get());
+    std::string const failure =
+        failure_of_changed(object, [&](Saved const& saved) { take_child(find(saved).get(), i); });
+    EXPECT_EQ(failure, is_list(node.get()) ? "" : failure_without_child(place, name, is_table)) << name;
+    Names below = place;
+    below.push_back(name);
+    expect_everything_is_needed(
+        object, is_table, [&](Saved const& saved) { return child_at(find(saved).get(), i); }, below);
+  }
+  if (!is_list(node.get())) return;
+  std::string const failure = failure_of_changed(
+      object, [&](Saved& saved) { find(saved)->appendChild(saved.dom.comment().get(), nullptr); });
+  bool const skips = name_at(place, 0) == "descriptors";
+  bool const has_own_words = name_at(place, 0) == "program_infos";
+  EXPECT_EQ(failure, skips ? "" : has_own_words ? "failed to get attribute map" : "failed") << "a comment";
 }
 
 /// Lines of a written tree without "descriptors" elements and what is below them.

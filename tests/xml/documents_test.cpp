@@ -42,7 +42,8 @@ void check(Object const& object) {
   constexpr bool is_table = !std::is_base_of_v<DescriptorBase, Object>;
   constexpr bool save_may_throw =
       std::is_same_v<Object, DescriptorAitRoutingIPv6> || std::is_same_v<Object, Ait>;
-  expect_everything_is_needed(object, is_table);
+  expect_everything_is_needed(
+      object, is_table, [](Saved const& saved) { return CComPtr<IXMLDOMNode>(saved.element.get()); }, {});
   expect_refusals_are_met(object, is_table, save_may_throw);
   expect_survival(object);
 }
