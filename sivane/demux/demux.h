@@ -45,7 +45,8 @@ enum class Reassembly {
 /// `Reassembly::every_section` is for receivers.
 ///
 /// A hook may register and remove handlers, the one that is delivering to it included: it gets no further
-/// calls. What a hook registers takes part from the next packet on.
+/// calls. What a hook registers takes part from the next packet on; with `Reassembly::first_start` a table,
+/// or a filter that a table's hook registers, already where the same packet goes on.
 class SIVANE_API Demux {
  public:
   class PidHandler;
@@ -191,6 +192,7 @@ class SIVANE_API Demux {
   friend class DemuxPush;
   friend class Demux2;
   class SIVANE_LOCAL Delivery;
+  class SIVANE_LOCAL FilterPass;
   class SIVANE_LOCAL Receptions;
   static constexpr int pid_count = 0x2000;
 
@@ -247,6 +249,7 @@ class SIVANE_API Demux {
   std::uint64_t next_offset_ = 0;
   std::uint64_t section_offset_ = 0;
   int deliveries_ = 0;        // calls of PidHandler::parse under way
+  int filter_passes_ = 0;     // loops over filters under way
   std::uint64_t parsed_ = 0;  // calls of PidHandler::parse so far
   // Handlers that a hook removed live on until no delivery is under way, each linked to the next: where
   // memory has run out they can still be put aside.
@@ -271,7 +274,7 @@ class SIVANE_API Demux::PSIHandler final : public BaseHandler, public SectionBuf
  private:
   friend class Demux;
   friend class PidHandler;
-  std::uint64_t added_in_ = 0;  // the call of PidHandler::parse under way or the last one before
+  std::uint64_t added_in_;  // the call of PidHandler::parse under way or the last one before
   bool removed_ = false;
   PSIHandler* next_retired_ = nullptr;
 };
@@ -296,7 +299,8 @@ class SIVANE_API Demux::PSIFilterHandler final : public BaseHandler, public Sect
  private:
   friend class PidHandler;
   bool matches(unsigned char const* bytes, int count) const;
-  std::uint64_t added_in_ = 0;  // as in PSIHandler
+  std::uint64_t added_in_;  // as in PSIHandler
+  bool by_a_filter_;        // the hook of a filter added it
 };
 
 /// The handlers of one PID.

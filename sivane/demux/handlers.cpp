@@ -55,6 +55,18 @@ class Demux::Delivery {
   Demux& demux_;
 };
 
+/// A loop over filters: what their hooks add to it waits for the next packet, or it might never end.
+class Demux::FilterPass {
+ public:
+  explicit FilterPass(Demux& demux) : demux_(demux) { ++demux_.filter_passes_; }
+  FilterPass(FilterPass const&) = delete;
+  FilterPass& operator=(FilterPass const&) = delete;
+  ~FilterPass() { --demux_.filter_passes_; }
+
+ private:
+  Demux& demux_;
+};
+
 void Demux::BaseHandler::dump_state(std::ostream&) const {}
 
 bool Demux::SectionBuffer::take(bool start, unsigned char const* data, int size) {
@@ -103,7 +115,8 @@ Demux::PSIFilterHandler::PSIFilterHandler(Demux& owner, unsigned char const* fil
       value(filter_value),
       size(filter_size),
       id(filter_id),
-      added_in_(owner.parsed_) {}
+      added_in_(owner.parsed_),
+      by_a_filter_(owner.filter_passes_ > 0) {}
 
 void Demux::PSIFilterHandler::parse(TSHeader const& /*header*/, bool start, unsigned char const* data,
                                     int payload_size) {
@@ -155,8 +168,7 @@ void Demux::PidHandler::parse(TSHeader& header, unsigned char const* data, int s
 void Demux::PidHandler::start_section(TSHeader const& header, unsigned char const* data, int size) {
   if (removed_) return;
   auto const entry = size > 0 ? psi_handlers.find(data[0]) : psi_handlers.end();
-  bool const is_known = entry != psi_handlers.end() && entry->second->added_in_ < demux.parsed_;
-  PSIHandler* const handler = is_known ? entry->second : nullptr;
+  PSIHandler* const handler = entry != psi_handlers.end() ? entry->second : nullptr;
   if (handler != nullptr) handler->parse(header, true, data, size);
   current = handler != nullptr && !handler->removed_ ? handler : nullptr;
   give_to_filters(header, true, data, size);
@@ -170,9 +182,11 @@ void Demux::PidHandler::continue_section(TSHeader const& header, unsigned char c
 void Demux::PidHandler::give_to_filters(TSHeader const& header, bool start, unsigned char const* data,
                                         int size) {
   log_write(3, "checking %d psifilter handlers", static_cast<int>(filter_handlers.size()));
+  FilterPass const pass(demux);
   for (PSIFilterHandler* const filter : filter_handlers) {
     if (removed_) return;
-    if (filter->added_in_ < demux.parsed_) filter->parse(header, start, data, size);
+    bool const waits = filter->by_a_filter_ && filter->added_in_ == demux.parsed_;
+    if (!waits) filter->parse(header, start, data, size);
   }
 }
 
