@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// A demultiplexer whose host runs out of memory.
+// The memory that a demultiplexer takes, and a host that runs out of it.
 #include <gtest/gtest.h>
 #include <sivane/demux/demux.h>
 
@@ -18,7 +18,7 @@ constexpr int pid = 0x100;
 
 class HookedHost final : public DemuxPush {
  public:
-  std::function<void()> hook;
+  std::function<void()> hook = [] {};
   int sections = 0;
   void push(Bytes const& stream) { push_data(stream.data(), static_cast<int>(stream.size())); }
 
@@ -44,6 +44,19 @@ TEST(MemoryOfADemux, IsWhatIsStated) {
   EXPECT_LE(of_the_object, 64u * 1024 + 256);
   host.add_psi_handler(pid, 0x42);
   EXPECT_LE(requested_bytes() - before, of_the_object + 8192 + 512);  // the PID and a handler
+}
+
+TEST(MemoryOfADemux, ThePacketPathTakesNone) {
+  PacketWriter writer;
+  writer.section(0x0000, make_section({}, Bytes(500)));
+  writer.packet({.pid = 0x0100, .start = true, .adaptation = 7, .payload = Bytes(170)});
+  writer.dense_sections(0x0000, {make_pat({{1, 0x100}}), make_section({}, Bytes(300)), make_pat({})});
+  writer.null_packets(3);
+  HookedHost host;
+  host.add_psi_handler(0x0000, 0x00);
+  host.add_psi_handler(0x0000, nullptr, nullptr, 0, 1);
+  EXPECT_EQ(allocations_of([&] { host.push(writer.stream()); }), 0u);
+  EXPECT_GT(host.sections, 2);
 }
 
 TEST(MemoryOfADemux, IsNotNeededToRemove) {

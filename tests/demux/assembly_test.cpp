@@ -1,84 +1,35 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// From payloads to sections: the state of one handler, and small streams with what comes out of them.
+// From packets to sections: headers, length fields that lead out of a packet, and small streams with what
+// comes out of them. Packets lie in heap blocks of their own size.
 #include <gtest/gtest.h>
 
+#include <sstream>
+
+#include "expect_error.h"
 #include "recording_host.h"
 
 namespace sivane::testing {
 namespace {
 
 constexpr int pid = 0x100;
-Bytes const whole = patterned_section(0x42, 20);
 
-enum State { idle, assembling, invalidated };
-constexpr bool start = true, continuation = false;
-
-struct Row {
-  State state;  // `assembling` holds the first five bytes of `whole`
-  bool kind;
-  Bytes bytes;
-  bool is_delivered, in_section;
-  int section_size;
-};
-
-std::vector<Row> const rows = {
-    {idle, start, part(whole, 0, 10), false, true, 10},
-    {idle, start, part(whole, 0, 1), false, true, 1},
-    {idle, start, {}, false, true, 0},
-    {idle, start, whole, true, false, 0},
-    {idle, start, whole + Bytes(8192 - 20, 0xFF), true, false, 0},
-    {idle, start, whole + Bytes(8193 - 20, 0xFF), false, false, 0},
-    {idle, continuation, whole, false, false, 0},
-    {assembling, start, part(whole, 0, 2), false, true, 2},
-    {assembling, start, whole, true, false, 0},
-    {assembling, start, {}, false, true, 0},
-    {assembling, continuation, part(whole, 5, 19), false, true, 19},
-    {assembling, continuation, part(whole, 5, 20), true, false, 0},
-    {assembling, continuation, part(whole, 5, 20) + Bytes(164, 0xFF), true, false, 0},
-    {invalidated, start, part(whole, 0, 10), false, true, 10},
-    {invalidated, start, whole, true, false, 0},
-    {invalidated, continuation, whole, false, true, 0},
-};
-
-template <class Handler>
-void check_row(Row const& row, Handler& handler) {
-  Demux::TSHeader const header(make_packet({.pid = pid}).data());
-  if (row.state != idle) handler.parse(header, true, whole.data(), 5);
-  if (row.state == invalidated) handler.section_size = 0;
-  HeapBlock const data(row.bytes);
-  handler.parse(header, row.kind, data.data(), data.size());
-  EXPECT_EQ(handler.in_section, row.in_section);
-  EXPECT_EQ(handler.section_size, row.section_size);
-}
-
-TEST(Assembly, EveryStateWithEveryKindOfPacket) {
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    SCOPED_TRACE("row " + std::to_string(i));
-    PushHost host;
-    Demux::PSIHandler handler(host, 0x42);
-    check_row(rows[i], handler);
-    EXPECT_EQ(host.sections, rows[i].is_delivered ? Sections{whole} : Sections());
-    Demux::PSIFilterHandler filter(host, nullptr, nullptr, 0, 7);
-    check_row(rows[i], filter);
-    EXPECT_EQ(host.filtered, rows[i].is_delivered ? (Filtered{{7, whole}}) : Filtered());
+TEST(PacketHeader, EachFieldHasItsBitsAndTheStreamStaysHexadecimal) {
+  for (auto const& [packet, dump] : std::map<char const*, char const*>{
+           {"47 FF FF FF", "tei: 1 pusi: 1 tp: 1 pid: 1fff tsc: 3 afc: 3 cc: f\nff"},
+           {"47 80 01 40", "tei: 1 pusi: 0 tp: 0 pid: 1 tsc: 1 afc: 0 cc: 0\nff"},
+           {"47 5A 00 2C", "tei: 0 pusi: 1 tp: 0 pid: 1a00 tsc: 0 afc: 2 cc: c\nff"},
+           {"47 21 10 93", "tei: 0 pusi: 0 tp: 1 pid: 110 tsc: 2 afc: 1 cc: 3\nff"}}) {
+    std::ostringstream os;
+    Demux::TSHeader(HeapBlock(hex(packet)).data()).dump_state(os);
+    os << 255;
+    EXPECT_EQ(os.str(), dump);
   }
 }
 
-TEST(Assembly, InvalidateDropsTheTableHandlersBytesOnly) {
-  PushHost host;
-  host.add_psi_handler(pid, 0x42);
-  host.add_filter(pid, 7);
-  Bytes const section = patterned_section(0x42, 300);
-  host.push(start_packet(pid, part(section, 0, 183)));
-  host.of_pid(pid).invalidate();
-  EXPECT_TRUE(host.of_table(pid, 0x42).in_section);
-  EXPECT_EQ(host.of_table(pid, 0x42).section_size, 0);
-  EXPECT_EQ(host.of_pid(pid).current, &host.of_table(pid, 0x42));
-  host.push(exact_packet(pid, false, part(section, 183, 300)));
-  EXPECT_TRUE(host.sections.empty());
-  EXPECT_EQ(host.filtered.size(), 1u);
+TEST(PacketHeader, NeedsTheSyncByte) {
+  EXPECT_TRUE(throws([] { Demux::TSHeader(hex("48 00 00 00").data()); }, "TS syncbyte expected"));
 }
 
 Bytes const s20 = patterned_section(0x42, 20), s188 = patterned_section(0x42, 188),
@@ -93,6 +44,13 @@ Bytes tail(Bytes const& section, int from = 183) {
 }
 /// A start packet whose payload, with the pointer_field in front, is filled up with stuffing.
 Bytes pointed(Bytes const& payload) { return make_packet({.pid = pid, .start = true, .payload = payload}); }
+
+/// A packet that claims a payload behind an adaptation field that fills it, or more.
+Bytes field_alone(bool start, int length) {
+  Bytes packet = make_packet({.pid = pid, .start = start, .adaptation = 183});
+  packet[4] = static_cast<unsigned char>(length);
+  return packet;
+}
 
 struct Case {
   char const* name;
@@ -125,6 +83,9 @@ std::vector<Case> const cases = {
     {"elementary stream starts between",
      head(s300) + pointed(hex("00 00 00 01 42 00 05")) + exact_packet(pid, true, hex("00 00 00 01")) +
          tail(s300),
+     {s300}},
+    {"adaptation fields without a payload between",
+     head(s300) + field_alone(true, 183) + field_alone(false, 184) + field_alone(true, 255) + tail(s300),
      {s300}},
     {"three zero bytes begin a section",
      pointed(hex("00 00 00 02 AA BB")) + pointed(hex("00 00 00 00")) + pointed(hex("00 00 01 01")),
@@ -164,14 +125,42 @@ TEST_F(SectionStream, GivesTheExpectedSections) {
   }
 }
 
-TEST_F(SectionStream, SizesAroundAPacketsEnd) {
-  for (int size = 7; size <= 187; ++size) {
-    host.forget();
-    Bytes const section = patterned_section(0x42, size);
-    host.push(start_packet(pid, part(section, 0, std::min(size, 183))));
-    EXPECT_EQ(host.sections.size(), size <= 183 ? 1u : 0u) << size;
-    if (size > 183) host.push(tail(section));
-    EXPECT_EQ(host.sections, Sections{section}) << size;
+Bytes const shortest = hex("42 00 00");
+
+/// Byte 4 is `count`, and behind the bytes that it counts stands `data`, as far as the packet goes.
+Bytes packet_with(int control, bool start, int count, Bytes const& data) {
+  Bytes packet = make_packet({.pid = pid, .start = start});
+  packet[3] = static_cast<unsigned char>(control << 4);
+  packet[4] = static_cast<unsigned char>(count);
+  for (std::size_t i = 0, at = 5 + static_cast<std::size_t>(count); i < data.size() && at < 188;) {
+    packet[at++] = data[i++];
+  }
+  return packet;
+}
+
+TEST_F(SectionStream, EveryPointerField) {
+  for (int const control : {0, 1}) {
+    for (int pointer = 0; pointer < 256; ++pointer) {
+      host.forget();
+      EXPECT_EQ(host.push(packet_with(control, true, pointer, shortest)), 0);
+      EXPECT_EQ(host.sections.size(), pointer <= 180 ? 1u : 0u) << pointer;
+      host.push(packet_with(control, false, 0, Bytes(184, 0)));  // ends a section that has begun
+      EXPECT_EQ(host.sections.size(), pointer <= 182 ? 1u : 0u) << pointer;
+      EXPECT_EQ(host.filtered.size(), host.sections.size()) << pointer;
+    }
+  }
+}
+
+TEST_F(SectionStream, EveryAdaptationFieldLength) {
+  for (int const control : {2, 3}) {
+    for (int length = 0; length < 256; ++length) {
+      host.forget();
+      EXPECT_EQ(host.push(packet_with(control, true, length, Bytes{0} + shortest)), 0);
+      EXPECT_EQ(host.sections.size(), length <= 179 ? 1u : 0u) << length;
+      std::string const hooks = "ts 256 @4;field @" + std::to_string(std::min(5 + length, 188)) + ';';
+      EXPECT_EQ(host.calls.substr(0, hooks.size()), hooks);
+      host.push(packet_with(control, false, length, Bytes(184, 0)));
+    }
   }
 }
 
@@ -184,11 +173,24 @@ TEST_F(SectionStream, LargestSectionWaitsForItsLastByte) {
   EXPECT_EQ(host.sections, Sections{largest});
 }
 
-TEST_F(SectionStream, AnUnhandledStartLeavesNoCurrentHandler) {
-  host.push(head(s300) + head(unhandled300));
-  EXPECT_EQ(host.of_pid(pid).current, nullptr);
-  EXPECT_TRUE(host.of_table(pid, 0x42).in_section);
-  EXPECT_EQ(host.of_table(pid, 0x42).section_size, 183);
+TEST_F(SectionStream, InvalidateDropsTheTableHandlersBytesOnly) {
+  host.push(head(s300));
+  host.of_pid(pid).invalidate();
+  host.push(next(s20 + Bytes(97)));  // what is whole now, and was the end of 300 bytes
+  EXPECT_TRUE(host.sections.empty());
+  EXPECT_EQ(host.filtered.size(), 1u);
+}
+
+TEST_F(SectionStream, APayloadBeyondTheBufferEndsItsSection) {
+  Demux::TSHeader const header(make_packet({.pid = pid}).data());
+  Demux::PSIHandler handler(host, 0x42);
+  for (std::size_t const size : {8192u, 8193u}) {
+    host.forget();
+    HeapBlock const payload(s20 + Bytes(size - 20, 0xFF));
+    handler.parse(header, true, payload.data(), payload.size());
+    EXPECT_EQ(host.sections.size(), size == 8192 ? 1u : 0u);
+    EXPECT_FALSE(handler.in_section);
+  }
 }
 
 TEST_F(SectionStream, StuffingIsATableIdLikeAnyOther) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <deque>
+#include <iterator>
 #include <sstream>
 
 #include "recording_host.h"
@@ -41,39 +42,29 @@ TEST(Push, ResultsByBuffer) {
   EXPECT_EQ(host.push_data(nullptr, -188), 0);
 }
 
-struct IstreamHost {
-  explicit IstreamHost(Bytes const& bytes) : stream({bytes.begin(), bytes.end()}), host(stream) {}
-  std::istringstream stream;
-  RecordingHost<DemuxIstream> host;
-};
-
-TEST(Istream, ReadsWholePacketsToTheEnd) {
-  for (std::size_t const rest : {0u, 1u, 187u}) {
-    IstreamHost source(plain + with_field + Bytes(rest, 0x47));
-    source.host.add_psi_handler(common_pid, 0x42);
-    EXPECT_EQ(source.host.start(), 1);
-    EXPECT_EQ(source.host.calls, "raw;ts 256;raw;ts 256;field;section 256 66 108;");
+TEST(Istream, EndsBehindTheLastWholePacketOrWhereItIsLostOrStopped) {
+  struct Case {
+    Bytes bytes;
+    int result;
+    char const* calls;
+    std::size_t bytes_left = 0;
+  };
+  for (Case const& c : {Case{plain + with_field, 1, "raw;ts 256;raw;ts 256;field;section 256 66 108;"},
+                        {plain + Bytes(1, 0x47), 1, "raw;ts 256;"},
+                        {plain + Bytes(187, 0x47), 1, "raw;ts 256;"},
+                        {plain + out_of_sync + plain, 2, "raw;ts 256;raw;", 188},
+                        {plain, 7, "raw;ts 256;"},
+                        {plain + plain + plain, 7, "raw;ts 256;", 188}}) {  // one is read, and dropped
+    std::istringstream stream({c.bytes.begin(), c.bytes.end()});
+    RecordingHost<DemuxIstream> host(stream);
+    host.add_psi_handler(common_pid, 0x42);
+    if (c.result == 7) host.on_call = [&](std::string const&) { host.stop(7); };
+    EXPECT_EQ(host.start(), c.result);
+    EXPECT_EQ(host.exit_code, c.result == 7 ? 7 : 1);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(stream), {}).size(), c.bytes_left);
+    EXPECT_EQ(host.start(), host.exit_code);
+    EXPECT_EQ(host.calls, c.calls);
   }
-}
-
-TEST(Istream, LostSyncEndsTheRun) {
-  IstreamHost source(plain + out_of_sync + plain);
-  EXPECT_EQ(source.host.start(), 2);
-  EXPECT_EQ(source.host.exit_code, 1);
-  EXPECT_EQ(source.host.calls, "raw;ts 256;raw;");
-}
-
-TEST(Istream, StopTakesEffectAtTheNextPacket) {
-  IstreamHost source(plain + plain + plain);
-  source.host.on_call = [&](std::string const&) { source.host.stop(7); };
-  EXPECT_EQ(source.host.start(), 7);
-  EXPECT_EQ(source.stream.tellg(), 2 * 188);  // one more was read, and dropped
-  EXPECT_EQ(source.host.start(), 7);
-  EXPECT_EQ(source.host.calls, "raw;ts 256;");
-
-  IstreamHost last(plain);
-  last.host.on_call = [&](std::string const&) { last.host.stop(7); };
-  EXPECT_EQ(last.host.start(), 7);
 }
 
 /// A source of the host's own: gives these answers in turn and false behind them.
@@ -91,21 +82,14 @@ struct OwnSource : RecordingHost<Demux> {
 };
 
 TEST(Pull, EndsAtAFalseOrAPartialRead) {
-  struct Case {
-    std::vector<std::pair<bool, int>> answers;
-    std::size_t reads;
-    char const* calls;
-  };
-  for (Case const& c : {Case{{}, 1, ""},
-                        {{{true, 188}, {true, 188}}, 3, "raw;ts 256;raw;ts 256;"},
-                        {{{true, 188}, {true, 187}}, 2, "raw;ts 256;"},
-                        {{{true, 189}}, 1, ""},
-                        {{{false, 188}}, 1, ""}}) {
+  std::vector<std::pair<bool, int>> const endings[] = {{}, {{true, 187}}, {{true, 189}}, {{false, 188}}};
+  for (auto const& ending : endings) {
     OwnSource source;
-    source.answers = c.answers;
+    source.answers = {{true, 188}};
+    source.answers.insert(source.answers.end(), ending.begin(), ending.end());
     EXPECT_EQ(source.start(), 1);
-    EXPECT_EQ(source.reads, c.reads);
-    EXPECT_EQ(source.calls, c.calls);
+    EXPECT_EQ(source.reads, 2u);
+    EXPECT_EQ(source.calls, "raw;ts 256;");
   }
 }
 
@@ -143,28 +127,15 @@ Bytes const section = patterned_section(0x42, 200);
 Bytes head(int pid) { return start_packet(pid, part(section, 0, 183)); }
 Bytes rest(int pid) { return exact_packet(pid, false, part(section, 183, 200)); }
 
-TEST(Polling, ReadsEachPidInTurnAndIdlesAfterEachPass) {
-  struct Case {
-    std::initializer_list<int> pids;
-    int passes;
-    char const* reads;
-  };
-  for (Case const& c :
-       {Case{{1}, 0, ""}, {{}, 2, "| | "}, {{0x3000, 20, 10}, 2, "10 20 12288 | 10 20 12288 | "}}) {
-    PollingHost host(c.pids, c.passes);
-    EXPECT_EQ(host.start(), 1);
-    EXPECT_EQ(host.reads, c.reads);
-  }
-}
-
-TEST(Polling, AFailingOrShortSourceIsSkipped) {
-  PollingHost host({10, 20, 30}, 2);
+TEST(Polling, ReadsEachPidInTurnAndSkipsWhatFailsOrIsShort) {
+  PollingHost host({0x3000, 20, 10}, 2), nobody({}, 2), no_pass({1}, 0);
   host.packets[10] = {head(10)};  // in the second pass it fails, and the length is still that of the first
   host.packets[20] = {Bytes(187, 0x47)};
-  host.packets[30] = {head(30)};
-  host.start();
+  host.packets[0x3000] = {head(30)};
+  for (PollingHost* const each : {&host, &nobody, &no_pass}) EXPECT_EQ(each->start(), 1);
   EXPECT_EQ(host.calls, "raw;ts 10;raw;ts 30;");
-  EXPECT_EQ(host.reads, "10 20 30 | 10 20 30 | ");
+  EXPECT_EQ(host.reads, "10 20 12288 | 10 20 12288 | ");
+  EXPECT_EQ(nobody.reads + no_pass.reads, "| | ");
 }
 
 TEST(Polling, APacketGoesToThePidItWasReadForAndNamesItsOwn) {
@@ -218,6 +189,22 @@ TEST(Polling, APidThatAHookRemovesIsReadNoMore) {
     host.start();
     EXPECT_EQ(host.reads, reads);
   }
+}
+
+TEST(PullDrivers, GiveEverySectionOnDemand) {
+  Bytes const one = patterned_section(0x42, 20), both = start_packet(common_pid, one + one);
+  auto const expect_both = [&](auto& driver) {
+    driver.set_reassembly(Reassembly::every_section);
+    driver.add_psi_handler(common_pid, 0x42);
+    driver.start();
+    EXPECT_EQ(driver.sections, (Sections{one, one}));
+  };
+  std::istringstream stream({both.begin(), both.end()});
+  RecordingHost<DemuxIstream> istream(stream);
+  expect_both(istream);
+  PollingHost polling({}, 1);
+  polling.packets[common_pid] = {both};
+  expect_both(polling);
 }
 
 }  // namespace

@@ -12,21 +12,7 @@
 namespace sivane::testing {
 namespace {
 
-/// Parses and dumps every PAT; a damaged one is noted.
-struct PatHost : DemuxPush {
-  std::ostringstream dumps;
-
-  void on_psi_section(int, int, int, unsigned char const* section) override {
-    try {
-      Pat pat;
-      pat.Parse(section);
-      pat.dump_state(dumps);
-    } catch (error const& failure) {
-      dumps << failure.what();
-    }
-  }
-};
-
+/// The dumps of all PATs of a stream; a damaged one is noted.
 std::string run(int number) {
   PacketWriter writer;
   for (int version = 0; version < 32; ++version) {
@@ -36,13 +22,23 @@ std::string run(int number) {
     pat[8] ^= 1;  // now its CRC is wrong
     writer.section(0, pat);
   }
-  PatHost host;
+  std::ostringstream dumps;
+  PushHost host;
   for (int round = 0; round < 20; ++round) {
     host.add_psi_handler(0, 0);
-    host.push_data(writer.stream().data(), static_cast<int>(writer.stream().size()));
+    host.push(writer.stream());
     host.reset();
   }
-  return host.dumps.str();
+  for (Bytes const& section : host.sections) {
+    try {
+      Pat pat;
+      pat.Parse(section.data());
+      pat.dump_state(dumps);
+    } catch (error const& failure) {
+      dumps << failure.what();
+    }
+  }
+  return dumps.str();
 }
 
 TEST(Threads, EachWithItsOwnDemuxAndTables) {
