@@ -194,6 +194,20 @@ Bytes all_tags(unsigned char set, int last_tag, int length, int first_byte, int 
   return loop;
 }
 
+/// Content descriptors with all the genres that there can be, most of them without a text.
+Bytes all_genres(unsigned char set) {
+  Bytes loop{set};
+  for (int first = 0; first < 256; first += 64) {
+    Bytes body;
+    for (int genre = first; genre < first + 64; ++genre) {
+      body.push_back(static_cast<unsigned char>(genre));
+      body.push_back(0x00);
+    }
+    loop = std::move(loop) + sivane::testing::make_descriptor(0x54, body);
+  }
+  return loop;
+}
+
 void write_descriptors(fs::path const& folder) {
   constexpr unsigned char dvb = 0, ait = 1;
   for (int const length : {0, 1, 3, 5, 9, 26}) {
@@ -202,6 +216,7 @@ void write_descriptors(fs::path const& folder) {
     write(folder / (name + "-counting"), all_tags(dvb, 0x80, length, 0x01, 1));
     write(folder / ("ait-tags-" + std::to_string(length)), all_tags(ait, 0x0E, length, 0x00, 1));
   }
+  write(folder / "all-genres", all_genres(dvb));
   write(folder / "ait-all", Bytes{ait} + sivane::testing::assemble(one_of_each({"ait"})));
 }
 
@@ -222,6 +237,9 @@ void write_dom(fs::path const& folder) {
 
 /// A descriptor that ends with the bytes, each time a longer one, for some of the classes.
 void write_records(fs::path const& folder) {
+  constexpr unsigned char event = 8;
+  std::string const leaves_its_event = "0001 C079124500 014530 8003 8002AA";
+  write(folder / "descriptor-leaves-its-event", Bytes{event} + sivane::testing::hex(leaves_its_event));
   Bytes body;
   for (int choice = 0; choice < 120; choice += 12) {
     body.push_back(static_cast<unsigned char>(choice & 0x07));
