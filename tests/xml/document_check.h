@@ -117,28 +117,20 @@ void expect_everything_is_needed(Object const& object, bool is_table, Find const
   EXPECT_EQ(failure, skips ? "" : has_own_words ? "failed to get attribute map" : "failed") << "a comment";
 }
 
-/// Lines of a written tree without "descriptors" elements and what is below them.
-inline std::string without_descriptors(std::string const& tree) {
+/// What of a written tree must be there where saving answers true. Of a table that is all but "descriptors"
+/// elements and what is below them; of a descriptor its attributes, and the names of its lists and of the
+/// items in them, since the inside of a record may lack what was refused.
+inline std::string needed_of(std::string const& tree, bool is_table) {
   std::istringstream lines(tree);
   std::string kept;
-  std::size_t left_out = std::string::npos;
+  std::size_t deepest = is_table ? std::string::npos : 4;
   for (std::string line; std::getline(lines, line);) {
     std::size_t const indent = line.find_first_not_of(' ');
-    if (left_out != std::string::npos && indent > left_out) continue;
-    left_out = line.substr(indent) == "descriptors" ? indent : std::string::npos;
-    if (left_out == std::string::npos) kept += line + '\n';
-  }
-  return kept;
-}
-
-/// What of a descriptor's tree must be there where saving answers true: its attributes, and the names of its
-/// lists and of the items in them. What is inside of a record may lack what was refused.
-inline std::string frame_of(std::string const& tree) {
-  std::istringstream lines(tree);
-  std::string kept;
-  for (std::string line; std::getline(lines, line);) {
-    std::size_t const indent = line.find_first_not_of(' ');
-    if (indent <= 4) kept += (indent == 0 ? line : line.substr(0, line.find(' ', indent))) + '\n';
+    if (indent > deepest) continue;
+    bool const is_left_out = is_table && line.substr(indent) == "descriptors";
+    if (is_table) deepest = is_left_out ? indent : std::string::npos;
+    bool const is_whole = is_table || indent == 0;
+    if (!is_left_out) kept += (is_whole ? line : line.substr(0, line.find(' ', indent))) + '\n';
   }
   return kept;
 }
@@ -160,8 +152,8 @@ void expect_refusals_are_met(Object const& object, bool is_table, bool save_may_
     auto const failure = caught_error([&] { answer = saved.save(object); });
     EXPECT_FALSE(failure && !save_may_throw) << failure->what();
     EXPECT_FALSE(answer && saved.text() == text) << "operation " << nth;
-    auto const needed = is_table ? without_descriptors : frame_of;
-    EXPECT_FALSE(answer && needed(saved.text()) != needed(text)) << "operation " << nth;
+    EXPECT_FALSE(answer && needed_of(saved.text(), is_table) != needed_of(text, is_table))
+        << "operation " << nth;
     EXPECT_EQ(saved.dom.objects(), 1 + objects_below(saved.element.get())) << "operation " << nth;
   }
   int const objects = whole.dom.objects();
