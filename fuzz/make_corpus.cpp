@@ -76,7 +76,11 @@ PacketWriter broadcast() {
 
 PacketWriter long_section() {
   PacketWriter writer;
-  writer.section(0x0000, sivane::testing::make_section({.length_override = 0xFFF}, Bytes(4080, 0xFF)));
+  Bytes section = sivane::testing::make_section({}, Bytes(4080, 0xFF));
+  section[1] |= 0x0F;
+  section[2] = 0xFF;
+  sivane::testing::repair_crc(section);
+  writer.section(0x0000, section);
   return writer;
 }
 

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "expect_error.h"
+#include "plain_bytes.h"
 #include "rows.h"
 
 namespace sivane::testing {
@@ -17,12 +18,10 @@ namespace {
 /// Bodies that between them take the branches of most classes: no inner lengths, lengths that run far over,
 /// lengths that fit now and then.
 std::vector<Bytes> body_patterns() {
-  Bytes counting(256), scattered(256);
-  unsigned state = 12345;
+  Bytes counting(256), scattered = noise(256);
   for (std::size_t i = 0; i < 256; ++i) {
     counting[i] = static_cast<unsigned char>(i);
-    state = state * 1103515245 + 12345;
-    scattered[i] = static_cast<unsigned char>(state >> 16 & (i % 3 == 0 ? 0xFF : 0x07));
+    if (i % 3 != 0) scattered[i] &= 0x07;
   }
   return {Bytes(256, 0x00), Bytes(256, 0xFF), counting, scattered};
 }

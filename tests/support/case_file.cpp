@@ -5,7 +5,6 @@
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
-#include <utility>
 
 namespace sivane::testing {
 namespace {
@@ -28,19 +27,12 @@ std::string value_of(std::string const& line, std::string const& key) {
   return value;
 }
 
-/// Lines as a case file has them; several of a dump stand in one.
+/// Lines as a case file has them.
 std::string as_written(std::string const& key, std::string const& lines) {
-  constexpr std::size_t width = 110;
-  std::string const start = (key + "       ").substr(0, key_size);
-  if (lines.empty()) return key + '\n';
   std::istringstream in(lines);
-  std::string text, row;
-  for (std::string line; std::getline(in, line);) {
-    bool const joins = key == "dump" && !row.empty() && row.size() + between.size() + line.size() <= width;
-    if (!joins && !row.empty()) text += std::exchange(row, "") + '\n';
-    row += joins ? std::string(between) + line : start + line;
-  }
-  return text + row + '\n';
+  std::string text;
+  for (std::string line; std::getline(in, line);) text += (key + "       ").substr(0, key_size) + line + '\n';
+  return text.empty() ? key + '\n' : text;
 }
 
 std::string hexadecimal(int value) {
@@ -97,7 +89,8 @@ std::string difference(Step const& step, KeyedLines const& outcome) {
     if (!is_right) text += as_written(key, lines);
   }
   for (auto const& [key, lines] : step.lines) {
-    if (key != "after" && !outcome.contains(key)) text += "nothing looks at " + as_written(key, lines);
+    if (key != "after" && key != "size" && !outcome.contains(key))
+      text += "nothing looks at " + as_written(key, lines);
   }
   if (text.empty()) return "";
   return step.file + ':' + std::to_string(step.line) + ": " + step.title + '\n' + text;

@@ -5,9 +5,9 @@
 #include <gtest/gtest.h>
 #include <sivane/foundation/error.h>
 
+#include <array>
 #include <optional>
 #include <string>
-#include <utility>
 
 #include "case_file.h"
 
@@ -30,17 +30,10 @@ template <class Action>
 std::string thrown(Action&& action) {
   auto const failure = caught_error(action);
   if (!failure) return "";
-  std::pair<error::errorcode_enum, char const*> const names[] = {
-      {error::no_errorcode, "no_errorcode"},
-      {error::length_error, "length_error"},
-      {error::item_length_error, "item_length_error"},
-      {error::syntax_error, "syntax_error"}};
-  std::string text = "some other code";
-  for (auto const& [code, name] : names) {
-    if (code == failure->code) text = name;
-  }
-  std::string const message = failure->what();
-  return message.empty() ? text : text + ' ' + message;
+  constexpr std::array names = {"no_errorcode", "item_length_error", "reserved_error", "syntax_error",
+                                "length_error"};
+  std::string const name = names.at(static_cast<std::size_t>(failure->code + 1));
+  return failure->text.empty() ? name : name + ' ' + failure->what();
 }
 
 /// That a step has come out as its lines say; what is printed otherwise can be pasted into the case file.
@@ -53,10 +46,10 @@ inline void expect_lines(Step const& step, KeyedLines const& outcome) {
 template <class Action>
 ::testing::AssertionResult throws(Action&& action, error::errorcode_enum code, std::string const& text) {
   auto const failure = caught_error(action);
-  if (!failure) return ::testing::AssertionFailure() << "nothing was thrown";
-  if (failure->code == code && failure->what() == text) return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure()
-         << "thrown: code " << static_cast<int>(failure->code) << ", text \"" << failure->what() << '"';
+  if (failure && failure->code == code && failure->what() == text) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "thrown: " << thrown([&] {
+           if (failure) throw *failure;
+         });
 }
 
 /// The same for a failure that has a text alone.

@@ -3,7 +3,9 @@
 #include "section_builder.h"
 
 #include <cctype>
+#include <charconv>
 #include <stdexcept>
+#include <string>
 
 #include "plain_bytes.h"
 
@@ -18,36 +20,18 @@ void append_16(Bytes& bytes, int value) {
   bytes.push_back(low_byte(value));
 }
 
-int nibble(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  throw std::invalid_argument("not a hexadecimal digit");
-}
-
-Bytes make_start(int table_id, int syntax_indicator, int reserved, int length) {
-  int const future_use =
-      table_id < 0x40 ? 0 : 1;  // a zero bit in the tables of MPEG, a reserved one in those of DVB
-  Bytes bytes{low_byte(table_id)};
-  append_16(bytes, syntax_indicator << 15 | future_use << 14 | reserved << 12 | (length & 0xFFF));
-  return bytes;
-}
-
 }  // namespace
 
 Bytes hex(std::string_view text) {
+  std::string digits(text);
+  std::erase_if(digits, [](unsigned char c) { return std::isspace(c) != 0; });
   Bytes bytes;
-  int high = -1;
-  for (char const c : text) {
-    if (std::isspace(static_cast<unsigned char>(c)) != 0) continue;
-    if (high < 0) {
-      high = nibble(c);
-    } else {
-      bytes.push_back(low_byte(high << 4 | nibble(c)));
-      high = -1;
-    }
+  for (char const* first = digits.data(); first != digits.data() + digits.size(); first += 2) {
+    unsigned int value = 0;
+    if (std::from_chars(first, first + 2, value, 16).ptr != first + 2)
+      throw std::invalid_argument("no pair of hexadecimal digits");
+    bytes.push_back(static_cast<unsigned char>(value));
   }
-  if (high >= 0) throw std::invalid_argument("an odd number of hexadecimal digits");
   return bytes;
 }
 
@@ -75,20 +59,23 @@ void repair_crc(Bytes& section) {
 }
 
 Bytes make_section(LongSection const& h, Bytes const& body) {
-  int const fitting = static_cast<int>(5 + body.size() + crc_size);
-  int const length = h.length_override >= 0 ? h.length_override : fitting;
-  Bytes section = make_start(h.table_id, h.syntax_indicator, h.reserved_header, length);
-  append_16(section, h.context_id);
-  section.push_back(low_byte(0xC0 | h.version_number << 1 | h.current_next_indicator));
-  section.push_back(low_byte(h.section_number));
-  section.push_back(low_byte(h.last_section_number));
-  section = section + body + Bytes(crc_size);
+  Bytes fields;
+  append_16(fields, h.context_id);
+  fields.push_back(low_byte(0xC0 | h.version_number << 1 | h.current_next_indicator));
+  fields.push_back(low_byte(h.section_number));
+  fields.push_back(low_byte(h.last_section_number));
+  Bytes section = make_short_section(h.table_id, fields + body + Bytes(crc_size));
+  section[1] |= 0x80;
   repair_crc(section);
   return section;
 }
 
-Bytes make_short_section(int table_id, Bytes const& body, int syntax_indicator) {
-  return make_start(table_id, syntax_indicator, 3, static_cast<int>(body.size())) + body;
+Bytes make_short_section(int table_id, Bytes const& body) {
+  // A zero bit in the tables of MPEG, a reserved one in those of DVB.
+  int const future_use = table_id < 0x40 ? 0 : 0x4000;
+  Bytes section{low_byte(table_id)};
+  append_16(section, future_use | 0x3000 | static_cast<int>(body.size()));
+  return section + body;
 }
 
 Bytes make_pat(std::vector<Program> const& programs, LongSection header) {

@@ -22,8 +22,7 @@ std::uint32_t slow_crc(Bytes const& bytes, std::uint32_t start = 0xFFFFFFFF);
 /// Puts the CRC of all other bytes into the last four.
 void repair_crc(Bytes& section);
 
-/// A section to be made from its fields. `length_override` of 0 or more replaces the section_length that
-/// fits.
+/// The header of a section to be made.
 struct LongSection {
   int table_id = 0;
   int context_id = 0;
@@ -31,15 +30,12 @@ struct LongSection {
   int current_next_indicator = 1;
   int section_number = 0;
   int last_section_number = 0;
-  int syntax_indicator = 1;
-  int reserved_header = 3;
-  int length_override = -1;
 };
 
 /// Header, body and CRC of a long-form section.
 Bytes make_section(LongSection const& header, Bytes const& body);
 /// Header and body of a short-form section.
-Bytes make_short_section(int table_id, Bytes const& body, int syntax_indicator = 0);
+Bytes make_short_section(int table_id, Bytes const& body);
 
 struct Program {
   int program_number;

@@ -10,6 +10,7 @@
 
 #include "expect_error.h"
 #include "heap_block.h"
+#include "section_text.h"
 
 namespace sivane::testing {
 namespace {
@@ -59,14 +60,7 @@ struct LongProbe final : Probe<PsiTableBase> {
   }
 };
 
-Bytes const long_sample = make_section({.table_id = 0x42,
-                                        .context_id = 0xABCD,
-                                        .version_number = 0x15,
-                                        .current_next_indicator = 0,
-                                        .section_number = 3,
-                                        .last_section_number = 2,
-                                        .reserved_header = 2},
-                                       {0x11, 0x22});
+Bytes const long_sample = assemble("42 E( ABCD EA 03 02 1122 crc )");
 Bytes const short_sample{0x70, 0, 5, 1, 2, 3, 4, 5};
 
 /// What a probe was asked, the fields that it has then, and what is thrown with the byte whose address
@@ -89,27 +83,6 @@ std::string parsed(Bytes const& bytes, std::string const& refused) {
   EXPECT_TRUE(failure->code != error::syntax_error ||
               failure->offset == 1);  // the header bits are in one byte
   return os.str();
-}
-
-/// Every shorter number of bytes fails before anything is read.
-template <class Table>
-void check_available(Bytes const& whole) {
-  for (std::size_t available = 0; available <= whole.size() + 9; ++available) {
-    Bytes bytes = whole + Bytes(9);
-    bytes.resize(available);
-    HeapBlock const block(bytes);
-    Table probe;
-    bool const fits = available >= whole.size();
-    EXPECT_EQ(thrown([&] { probe.Parse(block.data(), available); }),
-              fits ? "" : "no_errorcode too little data");
-    EXPECT_EQ(probe.valid, fits);
-    EXPECT_EQ(probe.section_length != 0, fits);
-  }
-}
-
-TEST(Sections, FitInWhatIsAvailableOrFailUntouched) {
-  check_available<LongProbe>(long_sample);
-  check_available<ShortProbe>(short_sample);
 }
 
 TEST(LongSection, ChecksInOrderAndKeepsWhatWasReadBefore) {
@@ -175,24 +148,6 @@ TEST(ShortSection, ChecksInOrderAndKeepsWhatWasReadBefore) {
             "syntax 0;id 112; 70 777; no_errorcode invalid table id");
   EXPECT_EQ(parsed<ShortProbe>(short_sample, "body"),
             "syntax 0;id 112;body 1; 70 5; no_errorcode body refused");
-}
-
-TEST(ShortSection, ReadsItsHeaderWhateverTheOtherBits) {
-  for (int bits = 0; bits < 0x100; bits += 0x10) {  // the upper half of byte 1
-    Bytes const section = Bytes{0x70, static_cast<unsigned char>(bits | 1), 0x02} + Bytes(0x102, 0xAA);
-    EXPECT_EQ(parsed<ShortProbe>(section, ""),
-              "syntax " + std::to_string(bits >> 7) + ";id 112;body 170; 70 102");
-  }
-}
-
-TEST(ShortSection, DumpsTwoLinesInTheStreamsBase) {
-  ShortProbe probe;
-  probe.table_id = 0x70;
-  probe.section_length = 10;
-  std::ostringstream os;
-  probe.dump_state(os);
-  probe.dump_state(os << std::hex);
-  EXPECT_EQ(os.str(), "table_id: 112\nsection_length: 10\ntable_id: 70\nsection_length: a\n");
 }
 
 }  // namespace

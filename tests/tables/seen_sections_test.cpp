@@ -4,6 +4,7 @@
 #include <sivane/tables/seen_sections.h>
 
 #include "heap_block.h"
+#include "section_text.h"
 
 namespace sivane::testing {
 namespace {
@@ -16,41 +17,33 @@ Sighting see(SeenSections& seen, int pid, Bytes const& section) {
 
 TEST(SeenSections, KnowWhatASectionWasLast) {
   SeenSections seen;
-  LongSection const header{.table_id = 0x50, .context_id = 7, .version_number = 3, .section_number = 1};
-  Bytes const body = hex("0001 0002 00 50");
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body)), Sighting::first);
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body)), Sighting::repeated);
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body + hex("00"))), Sighting::changed);
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body)), Sighting::changed);
-  LongSection next = header;
-  next.version_number = 4;
-  EXPECT_EQ(see(seen, 0x12, make_section(next, body)), Sighting::new_version);
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body)), Sighting::new_version);
+  auto const see_body = [&seen](std::string const& body) {
+    return see(seen, 0x12, assemble("50 F( 0007 " + body + " crc )"));
+  };
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50"), Sighting::first);
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50"), Sighting::repeated);
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50 00"), Sighting::changed);
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50"), Sighting::changed);
+  EXPECT_EQ(see_body("C9 01 00 0001 0002 00 50"), Sighting::new_version);
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50"), Sighting::new_version);
   EXPECT_EQ(seen.size(), 1u);
   seen.clear();
-  EXPECT_EQ(see(seen, 0x12, make_section(header, body)), Sighting::first);
+  EXPECT_EQ(see_body("C7 01 00 0001 0002 00 50"), Sighting::first);
 }
 
 TEST(SeenSections, TellSectionsApart) {
-  LongSection const header{.table_id = 0x50, .context_id = 7, .section_number = 1};
-  auto const with = [&header](auto member, int value) {
-    LongSection other = header;
-    other.*member = value;
-    return other;
-  };
   SeenSections seen;
-  std::vector<std::pair<int, Bytes>> const sections = {
-      {0x12, make_section(header, hex("0001 0002 00 50"))},
-      {0x13, make_section(header, hex("0001 0002 00 50"))},
-      {0x12, make_section(with(&LongSection::table_id, 0x51), hex("0001 0002 00 50"))},
-      {0x12, make_section(with(&LongSection::context_id, 8), hex("0001 0002 00 50"))},
-      {0x12, make_section(with(&LongSection::section_number, 0), hex("0001 0002 00 50"))},
-      {0x12, make_section(with(&LongSection::current_next_indicator, 0), hex("0001 0002 00 50"))},
-      {0x12, make_section(header, hex("0003 0002 00 50"))},
-      {0x12, make_section(header, hex("0001 0004 00 50"))},
-      {0x11, make_section({.table_id = 0x46}, hex("0001 FF"))},
-      {0x11, make_section({.table_id = 0x46}, hex("0002 FF"))},
-      {0x00, make_section({}, {})}};
+  std::pair<int, Bytes> const sections[] = {{0x12, assemble("50 F( 0007 C1 01 00 0001 0002 00 50 crc )")},
+                                            {0x13, assemble("50 F( 0007 C1 01 00 0001 0002 00 50 crc )")},
+                                            {0x12, assemble("51 F( 0007 C1 01 00 0001 0002 00 50 crc )")},
+                                            {0x12, assemble("50 F( 0008 C1 01 00 0001 0002 00 50 crc )")},
+                                            {0x12, assemble("50 F( 0007 C1 00 00 0001 0002 00 50 crc )")},
+                                            {0x12, assemble("50 F( 0007 C0 01 00 0001 0002 00 50 crc )")},
+                                            {0x12, assemble("50 F( 0007 C1 01 00 0003 0002 00 50 crc )")},
+                                            {0x12, assemble("50 F( 0007 C1 01 00 0001 0004 00 50 crc )")},
+                                            {0x11, assemble("46 F( 0000 C1 00 00 0001 FF crc )")},
+                                            {0x11, assemble("46 F( 0000 C1 00 00 0002 FF crc )")},
+                                            {0x00, assemble("00 B( 0000 C1 00 00 crc )")}};
   for (auto const& [pid, section] : sections) EXPECT_EQ(see(seen, pid, section), Sighting::first);
   for (auto const& [pid, section] : sections) EXPECT_FALSE(seen.is_new(pid, HeapBlock(section).data()));
 }
