@@ -4,6 +4,7 @@
 // The memory that a demultiplexer takes, and a host that runs out of it.
 #include <gtest/gtest.h>
 #include <sivane/demux/demux.h>
+#include <sivane/demux/packet_finder.h>
 
 #include <functional>
 #include <new>
@@ -33,6 +34,12 @@ class HookedHost final : public DemuxPush {
   }
 };
 
+struct Finder final : PacketFinder {
+  explicit Finder(DemuxPush& demux) : host(demux) {}
+  void on_packets(PacketRun const& run) override { host.push_packets(run); }
+  DemuxPush& host;
+};
+
 Bytes const stream =
     make_packet({.pid = pid, .start = true, .payload = Bytes{0} + make_short_section(0x42, Bytes(9))});
 
@@ -52,11 +59,25 @@ TEST(MemoryOfADemux, ThePacketPathTakesNone) {
   writer.packet({.pid = 0x0100, .start = true, .adaptation = 7, .payload = Bytes(170)});
   writer.dense_sections(0x0000, {make_pat({{1, 0x100}}), make_section({}, Bytes(300)), make_pat({})});
   writer.null_packets(3);
-  HookedHost host;
-  host.add_psi_handler(0x0000, 0x00);
-  host.add_psi_handler(0x0000, nullptr, nullptr, 0, 1);
-  EXPECT_EQ(allocations_of([&] { host.push(writer.stream()); }), 0u);
-  EXPECT_GT(host.sections, 2);
+  Bytes const& packets = writer.stream();
+  for (Reassembly const mode : {Reassembly::first_start, Reassembly::every_section}) {
+    HookedHost host;
+    host.set_reassembly(mode);
+    host.count(0x0100);
+    host.add_psi_handler(0x0000, 0x00);
+    host.add_psi_handler(0x0000, nullptr, nullptr, 0, 1);
+    Finder finder(host);
+    EXPECT_EQ(allocations_of([&] { host.push(packets); }), 0u);
+    int const found = host.sections;
+    EXPECT_GT(found, 2);
+    EXPECT_EQ(allocations_of([&] {
+                finder.push(packets.data(), packets.size() - 100);
+                finder.push(packets.data() + packets.size() - 100, 100);
+              }),
+              0u);
+    EXPECT_GT(host.sections, found + 2);
+    EXPECT_EQ(host.counters(0x0100)->repeated, 1u);
+  }
 }
 
 TEST(MemoryOfADemux, IsNotNeededToRemove) {
