@@ -20,6 +20,9 @@ struct CommandRow {
                        Parsing its_parsing, Make& its_make)
       : name(its_name), help(its_help), inputs(its_inputs), parsing(its_parsing), make(&its_make) {}
 
+  /// Those that show each section as it comes show it as it is: the others gather, and print at the end.
+  bool prints_at_end() const { return parsing == Parsing::tolerant; }
+
   char const* name;
   char const* help;
   std::span<Input const> inputs;  ///< what it can read

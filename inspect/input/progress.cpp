@@ -18,7 +18,8 @@ constexpr std::chrono::milliseconds between_lines(200);
 Progress::Progress(Source const& source, Options const& options)
     : name_(visible(source.name())),
       size_(source.size()),
-      is_shown_(size_ > 0 && !options.follow && isatty(STDERR_FILENO) == 1 && isatty(STDOUT_FILENO) == 0),
+      is_shown_(size_ > 0 && !options.follow && isatty(STDERR_FILENO) == 1 &&
+                (isatty(STDOUT_FILENO) == 0 || options.command->prints_at_end())),
       next_(std::chrono::steady_clock::now() + between_lines) {}
 
 void Progress::add(std::size_t bytes) {

@@ -9,8 +9,8 @@
 
 namespace inspect {
 
-/// How much of a file was read, on standard error where that is a terminal and standard output is none that
-/// the line would get into the way of.
+/// How much of a file was read, on standard error where that is a terminal and the line does not get into the
+/// way of sections that are shown on it as they come.
 class Progress {
  public:
   Progress(Source const& source, Options const& options);
