@@ -62,6 +62,17 @@ TEST(Reader, SizesBelowZeroCountAsNone) {
   EXPECT_EQ(reader.left(), 1);
 }
 
+TEST(Reader, FieldsMayPassItsEndButNotItsLimitAndAFailedReadTakesNoBytes) {
+  HeapBlock const block(hex("01 02 03 04"));
+  Reader reader(block.data(), 1, 4, named);
+  EXPECT_EQ(reader.u16(), 0x0102);
+  EXPECT_TRUE(reader.past_end());
+  EXPECT_EQ(reader.rest_as_string(), "");
+  EXPECT_TRUE(throws([&] { reader.need_whole(1, {error::syntax_error}); }, error::syntax_error, ""));
+  EXPECT_TRUE(throws([&] { reader.u32(); }, error::length_error, "named"));
+  EXPECT_EQ(reader.u16(), 0x0304);
+}
+
 TEST(Reader, GivesADescriptorThatTheLimitHolds) {
   HeapBlock const block(hex("4D 01 AA BB 00 05"));
   Reader reader = Reader::within(block.data(), block.size());
