@@ -112,15 +112,18 @@ void ProgramsCommand::take(sivane::Pat const& pat) {
 }
 
 void ProgramsCommand::take(sivane::Cat const& cat) {
-  for (auto const& descriptor : cat.get_CA_descriptors()) {
-    common_[descriptor.pid] = {U"EMM", {}, {descriptor.sys_id}};
-  }
+  for (auto const& descriptor : cat.get_CA_descriptors()) add_ca(common_, descriptor, U"EMM");
+}
+
+void ProgramsCommand::add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char32_t const* what) {
+  Content& content = pids[descriptor.pid];
+  if (content.what.empty()) content.what = what;
+  content.ca_systems.insert(descriptor.sys_id);
 }
 
 void ProgramsCommand::take(sivane::Pmt const& pmt) {
   Pids pids;
-  for (auto const& descriptor : pmt.get_CA_descriptors())
-    pids[descriptor.pid] = {U"ECM", {}, {descriptor.sys_id}};
+  for (auto const& descriptor : pmt.get_CA_descriptors()) add_ca(pids, descriptor, U"ECM");
   for (auto const& stream : pmt.stream_infos) take_stream(stream, pids);
   if (pmt.pcr_pid != null_pid) {
     std::u32string& what = pids[pmt.pcr_pid].what;
@@ -135,9 +138,7 @@ void ProgramsCommand::take_stream(sivane::PmtStreamInfo const& stream, Pids& pid
   content.languages = languages_of(stream);
   for (auto const& descriptor : stream.get_CA_descriptors()) {
     content.ca_systems.insert(descriptor.sys_id);
-    Content& control = pids[descriptor.pid];
-    if (control.what.empty()) control.what = U"ECM";
-    control.ca_systems.insert(descriptor.sys_id);
+    add_ca(pids, descriptor, U"ECM");
   }
 }
 

@@ -38,6 +38,8 @@ class ProgramsCommand final : public Command {
   void take(sivane::Pat const& pat);
   void take(sivane::Cat const& cat);
   void take(sivane::Pmt const& pmt);
+  /// Several systems may share a PID.
+  static void add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char32_t const* what);
   void take_stream(sivane::PmtStreamInfo const& stream, Pids& pids);
   std::u32string map_content(int number) const;
   void add_row(Columns& columns, std::u32string const& program, int pid, Content const& content) const;

@@ -5,6 +5,7 @@
 #include <sivane/demux/packet_finder.h>
 
 #include <algorithm>
+#include <exception>
 #include <vector>
 
 #include "console.h"
@@ -53,7 +54,8 @@ class Finder final : public sivane::PacketFinder {
   throw NoInput(source.size() == 0 ? source.name() + " is empty" : "nothing came from " + source.name());
 }
 
-void find_packets(Source& source, Options const& options, Finder& finder) {
+/// Gives the fault that the source ended with, null if there was none.
+std::exception_ptr push_all(Source& source, Options const& options, Finder& finder) try {
   std::vector<unsigned char> block(4 * Source::smallest_buffer);
   Progress progress(source, options);
   while (!finder.has_enough()) {
@@ -62,10 +64,19 @@ void find_packets(Source& source, Options const& options, Finder& finder) {
     progress.add(size);
     finder.push(block.data(), size);
   }
+  return nullptr;
+} catch (InputFault const&) {
+  return std::current_exception();
+}
+
+/// What came before a fault of the source is shown and counted as if it had ended there.
+std::exception_ptr find_packets(Source& source, Options const& options, Finder& finder) {
+  std::exception_ptr const fault = push_all(source, options, finder);
   std::uint64_t const bytes = finder.next_offset();
   finder.flush();
-  if (finder.packets == 0 && !finder.has_enough()) refuse_without_packets(source, bytes);
+  if (finder.packets == 0 && !finder.has_enough() && !fault) refuse_without_packets(source, bytes);
   finder.tell_skipped();
+  return fault;
 }
 
 }  // namespace
@@ -74,9 +85,10 @@ void read_ts(Source& source, Options const& options, Command& command) {
   Host host(options, command);
   if (command.wants_packets()) host.count_all();
   Finder finder(options, host);
-  find_packets(source, options, finder);
+  std::exception_ptr const fault = find_packets(source, options, finder);
   if (command.wants_packets()) command.take_packets(counts_of(host));
   report_losses(host);
+  if (fault) std::rethrow_exception(fault);
 }
 
 }  // namespace inspect
