@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Packets found in bytes.
+// Packets found in bytes, and recordings through all of the way from bytes to sections.
 #include <gtest/gtest.h>
 #include <sivane/demux/packet_finder.h>
 
+#include <array>
+#include <fstream>
+#include <iterator>
 #include <set>
 
 #include "random_stream.h"
@@ -181,6 +184,102 @@ TEST(PacketFinder, GoesOnWhereAHookHasThrown) {
   EXPECT_GT(throws, 3);
   EXPECT_EQ(finder.found.size(), static_cast<std::size_t>(packets));
   EXPECT_EQ(finder.skipped, "");
+}
+
+Bytes sample(char const* name) {
+  std::ifstream file(std::string(SIVANE_SAMPLES "/") + name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+/// All of the way from bytes to sections, with the usual registrations.
+struct Receiver final : DemuxPush {
+  struct Section {
+    std::uint64_t first_packet, last_packet;
+    Bytes bytes;
+  };
+  std::vector<Section> sections;
+  Finder finder;
+
+  Receiver() {
+    set_reassembly(Reassembly::every_section);
+    for (auto const& [pid, first, last] : {std::array{0, 0x00, 0x00},
+                                           {0x10, 0x40, 0x41},
+                                           {0x11, 0x42, 0x4A},
+                                           {0x12, 0x4E, 0x6F},
+                                           {0x14, 0x70, 0x73}}) {
+      for (int id = first; id <= last; ++id) add_psi_handler(pid, id);
+    }
+    finder.on_run = [this](PacketRun const& run) { push_packets(run); };
+  }
+
+ protected:
+  void on_psi_section(int, int table_id, int, unsigned char const* section) override {
+    int const size = ((section[1] & 0xF) << 8 | section[2]) + 3;
+    sections.push_back({section_offset(), packet_offset(), {section, section + size}});
+    if (table_id != 0x00 || slow_crc(sections.back().bytes) != 0) return;
+    for (int at = 8; at < size - 4; at += 4) {
+      if ((section[at] | section[at + 1]) != 0)
+        add_psi_handler((section[at + 2] & 0x1F) << 8 | section[at + 3], 0x02);
+    }
+  }
+};
+
+Sections bytes_of(Receiver const& receiver) {
+  Sections bytes;
+  for (auto const& section : receiver.sections) bytes.push_back(section.bytes);
+  return bytes;
+}
+
+TEST(Recordings, GiveTheSameSectionsInEveryFormAndAllOfThem) {
+  for (char const* const name : {"satellite-fr.ts", "satellite-it.ts", "terrestrial-at.ts",
+                                 "terrestrial-fr.ts", "terrestrial-tw.ts"}) {
+    Bytes const packets_alone = sample(name);
+    if (packets_alone.empty()) GTEST_SKIP() << "no samples";
+    Receiver plain;
+    plain.push_data(packets_alone.data(), static_cast<int>(packets_alone.size()));
+    Sections const sections = bytes_of(plain);
+    bool const is_large = packets_alone.size() > 1000000;
+    if (is_large) {
+      EXPECT_EQ(sections.size(), 484u);
+      EXPECT_EQ(std::set<Bytes>(sections.begin(), sections.end()).size(), 237u);
+    }
+    std::minstd_rand random(1);
+    for (int const stride : {188, 192, 204}) {
+      Receiver receiver;
+      receiver.finder.read(Bytes(77, 0x47) + Bytes(500, 0x00) + spread(packets_alone, stride),
+                           [&] { return is_large ? static_cast<int>(random() % 9000 + 1) : 1; });
+      EXPECT_EQ(bytes_of(receiver), sections) << name << stride;
+    }
+  }
+}
+
+TEST(Recordings, LoseToADamageTheSectionsThatItTouches) {
+  Bytes const whole = sample("satellite-fr.ts");
+  if (whole.empty()) GTEST_SKIP() << "no samples";
+  Receiver plain;
+  plain.finder.read(whole, [] { return 1 << 30; });
+  std::minstd_rand random(1);
+  for (int round = 0; round < 40; ++round) {
+    int const at = static_cast<int>(random() % whole.size()), length = static_cast<int>(random() % 188);
+    auto const first = static_cast<std::uint64_t>(at - at % 188);
+    std::uint64_t const last = static_cast<std::uint64_t>(at + length);
+    int const size = static_cast<int>(whole.size()), behind = std::min(size, at + length);
+    Bytes const damaged =
+        round % 2 == 0
+            ? part(whole, 0, at) + part(whole, behind, size)
+            : part(whole, 0, at) + Bytes(static_cast<std::size_t>(length), 0x22) + part(whole, at, size);
+    Receiver receiver;
+    receiver.finder.read(damaged, [] { return 4096; });
+    Sections const found = bytes_of(receiver);
+    auto next = found.begin();
+    for (auto const& section : plain.sections) {
+      bool const is_touched = section.first_packet <= last && section.last_packet >= first;
+      auto const place = std::find(next, found.end(), section.bytes);
+      if (place != found.end()) next = place + 1;
+      EXPECT_TRUE(is_touched || place != found.end())
+          << "damage at " << at << ", section of " << section.first_packet;
+    }
+  }
 }
 
 }  // namespace
