@@ -75,7 +75,7 @@ std::string help_footer() {
       if (label.size() < indent) {
         lines.replace(0, label.size(), label);
       } else {
-        lines = label + '\n' + lines;
+        lines.insert(0, label + '\n');
       }
       footer += lines;
     }

@@ -35,6 +35,7 @@ DvbFilter::DvbFilter(DvbCalls& calls, std::string const& device, int pid)
       bytes_(packets_read_at_once * packet_size) {
   require(file_.get() >= 0, device_, "cannot open");
   // The request takes the number itself. Where it is refused the usual buffer serves.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
   calls_.ioctl(file_.get(), DMX_SET_BUFFER_SIZE, reinterpret_cast<void*>(kernel_buffer));
   dmx_pes_filter_params filter = {};
   filter.pid = static_cast<std::uint16_t>(pid);

@@ -71,7 +71,7 @@ std::exception_ptr push_all(Source& source, Options const& options, Finder& find
 
 /// What came before a fault of the source is shown and counted as if it had ended there.
 std::exception_ptr find_packets(Source& source, Options const& options, Finder& finder) {
-  std::exception_ptr const fault = push_all(source, options, finder);
+  std::exception_ptr fault = push_all(source, options, finder);
   std::uint64_t const bytes = finder.next_offset();
   finder.flush();
   if (finder.packets == 0 && !finder.has_enough() && !fault) refuse_without_packets(source, bytes);
