@@ -11,7 +11,7 @@ namespace inspect {
 namespace {
 
 OptionRow row_of(CLI::Option const& option) {
-  std::vector<std::string> const letters = option.get_snames();
+  std::vector<std::string> const& letters = option.get_snames();
   return {letters.empty() ? "" : "-" + letters.front(), "--" + option.get_lnames().front(),
           option.get_type_size() == 0 ? "" : option.get_type_name(), option.get_description()};
 }

@@ -21,7 +21,7 @@ int DemuxPush::push_data(unsigned char const* data, int size) {
 }
 
 int DemuxPush::push_packets(PacketRun const& run) {
-  std::ptrdiff_t const prefetch_distance = prefetched_packets * run.stride;
+  std::ptrdiff_t const prefetch_distance = std::ptrdiff_t{prefetched_packets} * run.stride;
   unsigned char const* packet = run.first;
   next_offset_ = run.offset;
   int result = 0;

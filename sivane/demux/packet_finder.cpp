@@ -239,7 +239,7 @@ PacketFinder::Chain PacketFinder::longest_chain() const {
 }
 
 void PacketFinder::flush() {
-  Piece const nothing(*this, nullptr, 0);
+  Piece const nothing(*this, held_bytes_, 0);
   if (in_sync_ && missed_one_) at_ = std::max(retry_from_, held_offset_);
   if (!in_sync_ || missed_one_) {
     for (Chain chain = longest_chain(); chain.packets > 0; chain = longest_chain()) {

@@ -5,6 +5,7 @@
 #include <sivane/foundation/parse_state.h>
 
 #define SIVANE_SET AitDescriptorSet
+// NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define SIVANE_SET_ROWS <sivane/descriptors/ait_descriptor_rows.inc>
 #include <sivane/descriptors/set_rows.inc>
 

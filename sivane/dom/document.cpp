@@ -87,7 +87,7 @@ std::string Document::save_string() const {
 CComPtr<IXMLDOMElement> Document::make_root(std::string const& name) {
   if (tree_->root()) throw error("the document has a root element already");
   check_name(name);
-  auto const element = element_node(tree_, append_element(tree_->unplaced, name.c_str()));
+  auto element = element_node(tree_, append_element(tree_->unplaced, name.c_str()));
   dom_->appendChild(element.get(), nullptr);
   return element;
 }

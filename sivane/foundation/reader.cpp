@@ -15,13 +15,14 @@ error as_error(Failure failure) {
   return {failure.code, failure.text};
 }
 
+error at(int offset, error failure) {
+  failure.offset = offset;
+  return failure;
+}
+
 }  // namespace
 
-void raise(Failure failure, int offset) {
-  error thrown = as_error(failure);
-  thrown.offset = offset;
-  throw thrown;
-}
+void raise(Failure failure, int offset) { throw at(offset, as_error(failure)); }
 
 Reader Reader::trusting(unsigned char const* first) { return within(first, std::numeric_limits<int>::max()); }
 

@@ -32,11 +32,13 @@ void require_whole(unsigned char const* section, std::size_t available) {
 }
 
 /// All header bits are in byte 1; `named` is the byte whose address the failure names, by its low 32 bits.
-[[noreturn]] void syntax_failure(unsigned char const* named) {
+error header_error(unsigned char const* named) {
   error failure(error::syntax_error, static_cast<unsigned int>(reinterpret_cast<std::uintptr_t>(named)));
   failure.offset = 1;
-  throw failure;
+  return failure;
 }
+
+[[noreturn]] void syntax_failure(unsigned char const* named) { throw header_error(named); }
 
 [[noreturn]] void id_failure() { raise({error::no_errorcode, "invalid table id"}, 0); }
 

@@ -23,7 +23,7 @@ namespace {
 
 using Name = std::u16string_view;
 
-#define SIVANE_NAME(tag, Class, getter, element) u"" element,
+#define SIVANE_NAME(tag, Class, getter, element) Name(u"" element),
 #define SIVANE_ROW SIVANE_NAME
 constexpr Name names[] = {
 #include <sivane/descriptors/descriptor_rows.inc>
