@@ -25,6 +25,9 @@
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
+// What an object holds, for a form of the host's own.
+#include <sivane/fields/field_visitor.h>
+
 // From sections to tables.
 #include <sivane/tables/ait.h>
 #include <sivane/tables/bat.h>

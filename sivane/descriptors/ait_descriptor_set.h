@@ -32,6 +32,8 @@ class SIVANE_API AitDescriptorSet {
   bool _save_descriptors(void* document, void* element) const;
   /// As `DescriptorSet::_parse_descriptors`.
   bool _parse_descriptors(void* node);
+  /// Tells the visitor the list of descriptors, in the order of documents.
+  void visit_descriptors(FieldVisitor& visitor) const;
 
 #define SIVANE_ROW(tag, Class, getter, element) std::vector<Class> const& getter() const;
 #include <sivane/descriptors/ait_descriptor_rows.inc>

@@ -127,17 +127,11 @@ class SIVANE_API DescriptorAitTransportProtocol final : public DescriptorAitBase
   /// An object carousel, with `protocol_id` 1.
   class SIVANE_API TransportOC {
    public:
-    TransportOC() = default;
     /// `consumed` is 8, or 2 where `remote_connection` is 0.
     TransportOC(unsigned char const* p, int& consumed);
-    /// From where the reader is, and steps over it.
-    explicit TransportOC(Reader& r);
+    SIVANE_RECORD(TransportOC)
     /// Prints its lines.
     void _dump_state(std::ostream& os) const;
-    /// Loads it from its element. Throws `error` where an attribute or child is missing.
-    void Parse(void* node);
-    /// Saves it on its element, which `document` has made. False once the document refuses.
-    bool SaveSection(void* document, void* element) const;
 
     int remote_connection = 0;    ///< 1 bit; the next three are there only where it is set
     int original_network_id = 0;  ///< 16 bits
@@ -149,17 +143,11 @@ class SIVANE_API DescriptorAitTransportProtocol final : public DescriptorAitBase
   /// IP over the multiplex, with `protocol_id` 2. The URLs that may follow are not kept.
   class SIVANE_API TransportIP {
    public:
-    TransportIP() = default;
     /// `consumed` is 8, or 2 where `remote_connection` is 0.
     TransportIP(unsigned char const* p, int& consumed);
-    /// From where the reader is, and steps over it.
-    explicit TransportIP(Reader& r);
+    SIVANE_RECORD(TransportIP)
     /// Prints its lines.
     void _dump_state(std::ostream& os) const;
-    /// Loads it from its element. Throws `error` where an attribute or child is missing.
-    void Parse(void* node);
-    /// Saves it on its element, which `document` has made. False once the document refuses.
-    bool SaveSection(void* document, void* element) const;
 
     int remote_connection = 0;    ///< 1 bit; the next three are there only where it is set
     int original_network_id = 0;  ///< 16 bits

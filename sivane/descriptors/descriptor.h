@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/reader.h>
 
 #include <iosfwd>
@@ -10,8 +11,8 @@
 
 namespace sivane {
 
-/// What all descriptors share: a tag, a length and six operations. Descriptors are plain values, held by
-/// value and never deleted through this class.
+/// What all descriptors share: a tag, a length and the operations below. Descriptors are plain values, held
+/// by value and never deleted through this class.
 class SIVANE_API DescriptorBase {
  public:
   /// The tag line, then the class's own lines. The stream stays hexadecimal and filled with "0".
@@ -19,19 +20,25 @@ class SIVANE_API DescriptorBase {
   /// The descriptor's name; a literal of the dumps, odd spellings included.
   virtual char const* get_tag_text() const = 0;
   /// The part of `SaveSection` that the class adds.
-  virtual bool _save_section(void* document, void* element) const = 0;
+  virtual bool _save_section(void* document, void* element) const;
   /// The lines that the class adds to a dump.
   virtual void _dump_state(std::ostream& os) const = 0;
   /// Empties the variable part where the class has one that can be; fixed members, `tag` and `length` stay.
   virtual void _reset() = 0;
   /// The part of `Parse` that the class adds.
-  virtual void _parse(void* node) = 0;
+  virtual void _parse(void* node);
+  /// Internal: names the members that the class adds, from which all its forms are made.
+  virtual void _fields(FieldList& f);
+  /// Internal: names the members that every descriptor has.
+  void _head_fields(FieldList& f);
 
   /// Loads tag, length and what the class carries from the descriptor's element. Throws `error` where a part
   /// is missing.
   void Parse(void* node);
   /// Saves them on the descriptor's element, which `document` has made. False once it refuses.
   bool SaveSection(void* document, void* element) const;
+  /// Tells the visitor tag, length and every member.
+  void visit(FieldVisitor& visitor) const;
 
   DescriptorBase& operator=(DescriptorBase const&) = default;
   DescriptorBase& operator=(DescriptorBase&&) = default;
@@ -57,8 +64,12 @@ class SIVANE_API DescriptorBase {
   /** From the bytes of one, whatever its tag. Throws `error` as the class says, or "too little data". */ \
   explicit Class(DescriptorBytes descriptor);                                                             \
   char const* get_tag_text() const override;                                                              \
-  bool _save_section(void* document, void* element) const override;                                       \
-  void _parse(void* node) override;
+  void _fields(FieldList& f) override;
+
+/// Whether two descriptors are of one class and equal in every member, tag and length included.
+SIVANE_API bool operator==(DescriptorBase const& one, DescriptorBase const& other);
+/// The opposite.
+inline bool operator!=(DescriptorBase const& one, DescriptorBase const& other) { return !(one == other); }
 
 /// Declares what every record of a descriptor has.
 #define SIVANE_RECORD(Class)                                                                  \
@@ -68,7 +79,8 @@ class SIVANE_API DescriptorBase {
   /** Loads it from its element. Throws `error` where an attribute or child is missing. */    \
   void Parse(void* node);                                                                     \
   /** Saves it on its element, which `document` has made. False once the document refuses. */ \
-  bool SaveSection(void* document, void* element) const;
+  bool SaveSection(void* document, void* element) const;                                      \
+  SIVANE_FIELDS(Class)
 
 /// The first two bytes of any descriptor, as an overlay.
 struct descriptor_base {

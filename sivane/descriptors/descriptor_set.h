@@ -45,6 +45,8 @@ class SIVANE_API DescriptorSet {
   /// Files what the "descriptors" element of the owner's element holds; elements of unknown names are
   /// skipped. Throws `error` where it is missing, and what the descriptors throw.
   bool _parse_descriptors(void* node);
+  /// Tells the visitor the list of descriptors, in the order of documents.
+  void visit_descriptors(FieldVisitor& visitor) const;
 
   // The vectors: `get_CA_descriptors()`, `get_short_event_descriptors()` and so on; empty where none was
   // filed. A reference is good until the set changes.

@@ -109,6 +109,7 @@ class SIVANE_API DescriptorCAIdentifier final : public DescriptorBase {
     void Parse(void* node);
     /// Saves it on its element, which `document` has made. False once the document refuses.
     bool SaveSection(void* document, void* element) const;
+    SIVANE_FIELDS(CAIdentifierID)
     /// Prints its lines.
     void dump_state(std::ostream& os) const;
 

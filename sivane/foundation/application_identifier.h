@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/reader.h>
 
 #include <iosfwd>
@@ -25,6 +26,7 @@ class SIVANE_API ApplicationIdentifier {
   void Parse(void* node);
   /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
+  SIVANE_FIELDS(ApplicationIdentifier)
   /// Eight and four upper-case hexadecimal digits with a blank between.
   std::string application_identifier_as_text() const;
   /// Reads two hexadecimal numbers of either case. Members that the text does not reach stay. Always true.

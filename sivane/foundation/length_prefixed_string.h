@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/reader.h>
 
 #include <iosfwd>
@@ -25,6 +26,7 @@ class SIVANE_API LengthPrefixedString {
   void Parse(void* node);
   /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
+  SIVANE_FIELDS(LengthPrefixedString)
 
   int length = 0;     ///< 8 bits
   std::string value;  ///< as many characters as the length says

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/reader.h>
 
 #include <iosfwd>
@@ -26,6 +27,7 @@ class SIVANE_API MultilingualNameInfo {
   void Parse(void* node);
   /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
+  SIVANE_FIELDS(MultilingualNameInfo)
 
   /// Prints its lines.
   void _dump_state(std::ostream& os) const;

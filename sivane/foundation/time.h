@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/reader.h>
 
 #include <iosfwd>
@@ -30,6 +31,7 @@ class SIVANE_API DateTime {
   void Parse(void* node);
   /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
+  SIVANE_FIELDS(DateTime)
   /// The six members as decimal numbers with a blank between, day first.
   std::string get_date_as_text() const;
   /// Reads what `get_date_as_text` writes. Members that the text does not reach stay. Always true.
@@ -78,6 +80,7 @@ class SIVANE_API TimeOffset {
   void Parse(void* node);
   /// Saves it on its element, which `document` has made. False once the document refuses.
   bool SaveSection(void* document, void* element) const;
+  SIVANE_FIELDS(TimeOffset)
 
   int hour = 0;    ///< 0 to 23
   int minute = 0;  ///< 0 to 59

@@ -36,6 +36,7 @@ class SIVANE_API Ait final : public PsiTableBase, public AitDescriptorSet {
     explicit Application(void* node);
     /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    SIVANE_FIELDS(Application)
     /// Prints its lines.
     void dump_state(std::ostream& os) const;
 

@@ -16,6 +16,7 @@ namespace sivane {
 class SIVANE_API DsmCC final : public PsiTableBase {
  public:
   SIVANE_TABLE
+  bool _save_section(void* document, void* element) const override;
   /// `data`.
   std::vector<unsigned char> const& get_data() const { return data; }
   int get_table_extension() const { return context_id; }  ///< 16 bits

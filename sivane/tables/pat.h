@@ -22,6 +22,7 @@ class SIVANE_API Pat final : public PsiTableBase {
     program_info() = default;
     /// From where the reader is, and steps over it.
     explicit program_info(Reader& reader);
+    SIVANE_FIELDS(program_info)
     /// Prints its lines.
     void dump_state(std::ostream& os) const;
 

@@ -33,6 +33,7 @@ class SIVANE_API PmtStreamInfo : public DescriptorSet {
   explicit PmtStreamInfo(void* node);
   /// Saves it on its element. False once the document refuses.
   bool _save_stream_info(void* document, void* element) const;
+  SIVANE_FIELDS(PmtStreamInfo)
   /// Prints its lines.
   void dump_state(std::ostream& os) const;
 

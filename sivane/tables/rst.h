@@ -27,6 +27,7 @@ class SIVANE_API Rst final : public PsiBase {
     explicit Status(void* node);
     /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    SIVANE_FIELDS(Status)
     /// Prints its lines.
     void dump_state(std::ostream& os) const;
 

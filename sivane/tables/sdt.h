@@ -35,6 +35,7 @@ class SIVANE_API Sdt final : public PsiTableBase {
     explicit Service_info(void* node);
     /// Saves it on its element. False once the document refuses.
     bool _save_stream_info(void* document, void* element) const;
+    SIVANE_FIELDS(Service_info)
     /// Prints its lines.
     void dump_state(std::ostream& os) const;
 

@@ -4,6 +4,7 @@
 
 #include <sivane/descriptors/descriptor.h>
 #include <sivane/foundation/export.h>
+#include <sivane/foundation/fields.h>
 #include <sivane/foundation/parse_options.h>
 #include <sivane/foundation/reader.h>
 
@@ -54,13 +55,15 @@ class SIVANE_API PsiTableBase {
   /// The lines that the class adds to a dump.
   virtual void _dump_state(std::ostream& os) const = 0;
   /// The part of `Parse(node)` that the class adds.
-  virtual void _parse(void* node) = 0;
+  virtual void _parse(void* node);
   /// Reads what follows the header; `body` is byte 8 of the section.
   virtual void _parse(unsigned char const* body) = 0;
   /// The part of `SaveSection` that the class adds.
-  virtual bool _save_section(void* document, void* element) const = 0;
+  virtual bool _save_section(void* document, void* element) const;
   /// Whether `table_id`, which is set already, is one of the table's.
   virtual bool is_valid_tablesid() const = 0;
+  /// Internal: names the members that the class adds, from which all its forms are made.
+  virtual void _fields(FieldList& f);
   /// Whether the section_syntax_indicator is one that the table takes.
   virtual bool is_valid_syntax_indicator(int indicator) const;
   /// `bits` are the two reserved bits after the section_syntax_indicator and the bit that follows it.
@@ -83,6 +86,11 @@ class SIVANE_API PsiTableBase {
   /// The header, then the body. The stream stays hexadecimal, upper-case and filled with "0".
   void dump_state(std::ostream& os) const;
 
+  /// Tells the visitor the header and every member.
+  void visit(FieldVisitor& visitor) const;
+  /// Internal: names the members of the header.
+  void _head_fields(FieldList& f);
+
   int table_id = 0;                            ///< 8 bits
   int syntax_indicator = 0;                    ///< 1 bit
   int section_length = 0;                      ///< 12 bits: the bytes after this field
@@ -96,6 +104,8 @@ class SIVANE_API PsiTableBase {
   std::vector<DescriptorGeneral> descriptors;  ///< the host's: no operation of the library adds to it
 
  protected:
+  using Frame = PsiTableBase;
+
   PsiTableBase() = default;
   PsiTableBase(PsiTableBase const&) = default;
   PsiTableBase(PsiTableBase&&) = default;
@@ -114,13 +124,13 @@ class SIVANE_API PsiTableBase {
 
 /// Declares what every table class has: the operations of its frame. `_parse` of a body throws what the
 /// class's comment says; `_reset` empties the class's own vectors, where the comment says nothing else.
-#define SIVANE_TABLE                                                \
-  char const* get_table_id_text() const override;                   \
-  void _reset() override;                                           \
-  void _dump_state(std::ostream& os) const override;                \
-  void _parse(void* node) override;                                 \
-  void _parse(unsigned char const* body) override;                  \
-  bool _save_section(void* document, void* element) const override; \
+#define SIVANE_TABLE                                 \
+  char const* get_table_id_text() const override;    \
+  void _reset() override;                            \
+  void _dump_state(std::ostream& os) const override; \
+  using Frame::_parse;                               \
+  void _parse(unsigned char const* body) override;   \
+  void _fields(FieldList& f) override;               \
   bool is_valid_tablesid() const override;
 
 /// What a table throws where a loop does not end at its length, or would leave the section.
@@ -148,13 +158,15 @@ class SIVANE_API PsiBase {
   /// "table_id: " and "section_length: " in the stream's base; a table calls this first.
   virtual void _dump_state(std::ostream& os) const;
   /// The part of `Parse(node)` that the class adds.
-  virtual void _parse(void* node) = 0;
+  virtual void _parse(void* node);
   /// Reads what follows the header; `body` is byte 3 of the section.
   virtual void _parse(unsigned char const* body) = 0;
   /// The part of `SaveSection` that the class adds.
-  virtual bool _save_section(void* document, void* element) const = 0;
+  virtual bool _save_section(void* document, void* element) const;
   /// Whether `table_id`, which is set already, is one of the table's.
   virtual bool is_valid_tablesid() const = 0;
+  /// Internal: names the members that the class adds, from which all its forms are made.
+  virtual void _fields(FieldList& f);
 
   /// As `PsiTableBase::Parse` of as many bytes.
   void Parse(unsigned char const* section, std::size_t available);
@@ -167,11 +179,18 @@ class SIVANE_API PsiBase {
   /// Prints its lines.
   void dump_state(std::ostream& os) const;
 
+  /// Tells the visitor the header and every member.
+  void visit(FieldVisitor& visitor) const;
+  /// Internal: names the members of the header.
+  void _head_fields(FieldList& f);
+
   int table_id = 0;        ///< 8 bits
   int section_length = 0;  ///< 12 bits: the bytes after this field
   bool valid = false;      ///< a `Parse` has run to its end
 
  protected:
+  using Frame = PsiBase;
+
   PsiBase() = default;
   PsiBase(PsiBase const&) = default;
   PsiBase(PsiBase&&) = default;
@@ -185,5 +204,13 @@ class SIVANE_API PsiBase {
  private:
   RunningParse running_;
 };
+
+/// Whether two tables are of one class and equal in every member, the header included; `valid` and the host's
+/// own vectors do not count.
+SIVANE_API bool operator==(PsiTableBase const& one, PsiTableBase const& other);
+SIVANE_API bool operator==(PsiBase const& one, PsiBase const& other);  ///< the same
+/// The opposite.
+inline bool operator!=(PsiTableBase const& one, PsiTableBase const& other) { return !(one == other); }
+inline bool operator!=(PsiBase const& one, PsiBase const& other) { return !(one == other); }  ///< the same
 
 }  // namespace sivane

@@ -24,6 +24,7 @@ class SIVANE_API TransportStreamEntry : public DescriptorSet {
   explicit TransportStreamEntry(void* node);
   /// Saves it on its element. False once the document refuses.
   bool _save_stream_info(void* document, void* element) const;
+  SIVANE_FIELDS(TransportStreamEntry)
 
   int stream_id = 0;   ///< transport_stream_id, 16 bits
   int network_id = 0;  ///< original_network_id, 16 bits

@@ -7,7 +7,6 @@
 #include <sivane/descriptors/descriptor_set.h>
 #include <sivane/descriptors/descriptor_storage.h>
 #include <sivane/foundation/error.h>
-#include <sivane/xml/archive.h>
 #include <sivane/xml/node.h>
 
 #include <algorithm>
@@ -16,8 +15,6 @@
 #include <string_view>
 
 namespace sivane {
-
-using xml::Archive;
 
 namespace {
 
@@ -67,11 +64,6 @@ void load_list(DescriptorGroups& groups, std::span<Name const> element_names, De
   for (long i = 0; i < children.count(); ++i) load_element(groups, element_names, rows, children.at(i).get());
 }
 
-void head(Archive& ar, DescriptorBase& d) {
-  ar.attr(u"descriptor_id", d.tag, "failed to get descriptor_id");
-  ar.attr(u"descriptor_length", d.length, "failed to get descriptor_length");
-}
-
 }  // namespace
 
 bool DescriptorSet::_save_descriptors(void* document, void* element) const {
@@ -93,18 +85,5 @@ bool AitDescriptorSet::_parse_descriptors(void* node) {
   load_list(groups_, ait_names, rows_of<AitDescriptorSet>(), node);
   return true;
 }
-
-bool DescriptorBase::SaveSection(void* document, void* element) const {
-  return xml::save(*this, document, element, head) && _save_section(document, element);
-}
-
-void DescriptorBase::Parse(void* node) {
-  Archive archive(node, "failed to get attribute map");
-  head(archive, *this);
-  _parse(node);
-}
-
-static void fields(Archive& ar, DescriptorGeneral& d) { ar.attr(u"private_data", d.data); }
-SIVANE_XML(DescriptorGeneral)
 
 }  // namespace sivane
