@@ -13,7 +13,8 @@ class FieldVisitor;
   void visit(FieldVisitor& visitor) const;                                        \
   /** Whether every member is equal. */                                           \
   bool operator==(Class const& other) const;                                      \
-  bool operator!=(Class const& other) const { return !(*this == other); }         \
+  /** The opposite. */                                                            \
+  bool operator!=(Class const\& other) const { return !(*this == other); }        \
   /** Internal: names the members, from which the forms of the class are made. */ \
   void _fields(FieldList& f);
 

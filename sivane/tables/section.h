@@ -104,7 +104,7 @@ class SIVANE_API PsiTableBase {
   std::vector<DescriptorGeneral> descriptors;  ///< the host's: no operation of the library adds to it
 
  protected:
-  using Frame = PsiTableBase;
+  using Frame = PsiTableBase;  ///< for SIVANE_TABLE
 
   PsiTableBase() = default;
   PsiTableBase(PsiTableBase const&) = default;
@@ -189,7 +189,7 @@ class SIVANE_API PsiBase {
   bool valid = false;      ///< a `Parse` has run to its end
 
  protected:
-  using Frame = PsiBase;
+  using Frame = PsiBase;  ///< for SIVANE_TABLE
 
   PsiBase() = default;
   PsiBase(PsiBase const&) = default;
