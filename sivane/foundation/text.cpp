@@ -14,8 +14,9 @@ void Text::parse(unsigned char const* field, int& used) {
 void Text::parse(int length, unsigned char const* data) {
   if (length <= 0) return;
   char const* const text = reinterpret_cast<char const*>(data);
-  int const selector = is_char_table(text[0]) ? 1 : 0;
-  append(text + selector, static_cast<std::size_t>(length - selector));
+  int const dropped = is_char_table(text[0]) ? 1 : 0;
+  if (empty()) selector_ = dropped != 0 ? data[0] : -1;
+  append(text + dropped, static_cast<std::size_t>(length - dropped));
 }
 
 bool Text::is_char_table(char c) {

@@ -84,7 +84,10 @@ long GetAttributeValue(Map* map, Name name, std::string& value) {
 }
 
 long GetAttributeValue(Map* map, Name name, Text& value) {
-  return GetAttributeValue(map, name, static_cast<std::string&>(value));
+  return read(map, name, [&](std::string const& text) {
+    value = Text();
+    value.assign(text);
+  });
 }
 
 long GetAttributeValue(Map* map, Name name, std::vector<unsigned char>& value) {

@@ -37,6 +37,7 @@ TEST(Text, DropsOneSelectorByteInFront) {
   for (int first = 0; first < 256; ++first) {
     Text text;
     text.parse(2, Bytes{static_cast<unsigned char>(first), 'A'}.data());
+    EXPECT_EQ(text.selector(), text == "A" ? first : -1);
     if (text == "A") selectors += static_cast<char>(first);
   }
   EXPECT_EQ(selectors, string_of(hex("00 01 02 03 04 05 06 0F 10 11 12 1F")));
@@ -49,6 +50,11 @@ TEST(Text, AppendsToWhatItHolds) {
   text.parse(field.data(), used);
   for (int const none : {0, -1}) text.parse(none, nullptr);
   EXPECT_EQ(text, "AA");
+  text.parse(2, hex("06 42").data());
+  EXPECT_EQ(text.selector(), 5) << "of the first";
+  text.clear();
+  text.parse(1, hex("43").data());
+  EXPECT_EQ(text.selector(), -1) << "of what it holds";
 }
 
 using Ints = std::vector<int>;

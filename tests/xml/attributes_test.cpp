@@ -170,8 +170,9 @@ TEST(Attributes, ArraysAreAppendedToAndTextsReplaced) {
   EXPECT_EQ(loaded(u"1234567", Ints{1}), Ints{1});
   EXPECT_EQ(loaded(u"new", std::string("old text")), "new");
   Text text;
-  text.append("old");
+  text.parse(2, Bytes{5, 0x41}.data());
   EXPECT_EQ(loaded(u"new", text), "new");
+  EXPECT_EQ(loaded(u"new", text).selector(), -1);
 }
 
 TEST(Attributes, CharactersFillTheirRoomUpToAZero) {
