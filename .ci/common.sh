@@ -28,7 +28,7 @@ configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUI
 # prefix.
 install_library() {
   local component
-  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom
+  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom sivane_charset
   rm -rf "$2"
   for component in runtime development dom; do
     cmake --install "$1" --prefix "$2" --component "$component" > /dev/null
@@ -39,7 +39,7 @@ install_library() {
 project_warnings() { grep -oE -e '-W[-a-z0-9]+' cmake/targets.cmake; }
 
 # Headers of sivane/ that are installed, one a line, relative to sivane/.
-public_headers() { sed -n '/FILE_SET HEADERS/,/)/s/^ *\([a-z0-9_/]*\.\(h\|inc\)\))*$/\1/p' sivane/CMakeLists.txt; }
+public_headers() { sed -n '/HEADERS/,/)/s/^ *\([a-z0-9_/]*\.\(h\|inc\)\))*$/\1/p' sivane/CMakeLists.txt; }
 
 # Under the randomisation of some kernels the sanitizers of g++ 12 and clang 14 do not start; where it may be
 # switched off, `steady` holds the command that does so.

@@ -13,6 +13,15 @@ function(sivane_target target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 endfunction()
 
+# sivane_shared(TARGET): its version where it is a shared library, which offers what is marked for that and nothing else.
+function(sivane_shared target)
+  set_target_properties(${target} PROPERTIES
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${SIVANE_INTERFACE})
+endfunction()
+
 # sivane_executable(NAME source... [LIBRARIES library...] [STANDARD number]): a program by the rules of sivane_target.
 function(sivane_executable name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "STANDARD" "LIBRARIES")

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+//
+// The texts that broadcasts are written in, as UTF-8.
+#include <gtest/gtest.h>
+#include <sivane/charset/charset.h>
+#include <sivane/charset/utf8.h>
+
+#include <stdexcept>
+#include <utility>
+
+#include "case_file.h"
+#include "section_builder.h"
+
+namespace sivane::testing {
+namespace {
+
+std::string field_of(Bytes const& bytes) { return {bytes.begin(), bytes.end()}; }
+
+Text text_of(Bytes const& field) {
+  Text text;
+  text.parse(static_cast<int>(field.size()), field.data());
+  return text;
+}
+
+charset::Options on_one_line() {
+  charset::Options options;
+  options.line_break = " ";
+  return options;
+}
+
+TEST(Converter, ReadsEveryCharacterTable) {
+  charset::Converter converter(on_one_line());
+  for (Block const& block : read_blocks("charset/cases/texts.txt")) {
+    for (auto const& [text, number] : block.lines) {
+      std::size_t const bar = text.find(" | ");
+      ASSERT_NE(bar, std::string::npos) << text;
+      Bytes const field = hex(text.substr(0, bar));
+      std::string const where = "texts.txt:" + std::to_string(number) + ' ' + block.title;
+      EXPECT_EQ(converter.utf8(field_of(field)), text.substr(bar + 3)) << where;
+      EXPECT_EQ(converter.utf8(text_of(field)), text.substr(bar + 3)) << where << ", selector apart";
+    }
+  }
+}
+
+bool is_shown(charset::Utf8 const& c) {
+  return c.is_valid && c.character >= 0x20 && (c.character < 0x7F || c.character > 0x9F) &&
+         (c.character & 0xFFFE) != 0xFFFE;
+}
+
+TEST(Converter, GivesValidTextWithoutControlCharactersForAnyBytes) {
+  charset::Converter converter(on_one_line());
+  for (unsigned int first = 0; first < 0x20; ++first) {
+    for (unsigned int pair = 0; pair < 0x10000; pair += 97) {
+      Bytes const field = {static_cast<unsigned char>(first),
+                           static_cast<unsigned char>(pair >> 8),
+                           static_cast<unsigned char>(pair),
+                           0x1B,
+                           0x9B,
+                           0xFF,
+                           0xFF};
+      std::string const converted = converter.utf8(field_of(field));
+      for (std::string_view rest = converted; !rest.empty();) {
+        charset::Utf8 const next = charset::first_of_utf8(rest);
+        ASSERT_TRUE(is_shown(next)) << first << ' ' << pair;
+        rest.remove_prefix(next.size);
+      }
+    }
+  }
+}
+
+TEST(Converter, WritesControlsAsTheHostWants) {
+  charset::Options options;
+  options.emphasis_on = "<";
+  options.emphasis_off = ">";
+  charset::Converter converter(options);
+  EXPECT_EQ(converter.utf8(field_of(hex("41 86 42 87 8A 43 0A 44 09 45"))), "A<B>\nC\nD E");
+  EXPECT_EQ(converter.utf8(field_of(hex("11 E0 86 00 42 E0 87 E0 8A"))), "<B>\n");
+}
+
+struct TableRow {
+  char const *default_table, *overrule, *field, *text;
+};
+
+TEST(Converter, TakesTheTablesOfTheHost) {
+  for (auto const& [default_table, overrule, field, text] : {
+           TableRow{"ISO-8859-1", "", "E9 A4 D0", "\u00e9\u00a4\u00d0"},
+           TableRow{"ISO-8859-1", "", "05 FD", "\u0131"},      // what is selected still counts
+           TableRow{"", "ISO-8859-1", "05 FD 41", "\u00fdA"},  // but not when it is overruled
+           TableRow{"", "utf-8", "10 00 02 C3 A9", "\u00e9"},  // whatever its size
+           TableRow{"", "iso_6937", "11 C2 65 A4", "\u00e9\u20ac"},
+           TableRow{"UTF-16LE", "", "41 00 E9 00 42 00", "A\u00e9B"},  // of no ASCII
+           TableRow{"ISO-2022-JP", "", "41 1B 24 42 46 7C 41", "A\u65e5\ufffd"},
+           TableRow{"ISO-2022-JP", "", "41 42", "AB"},  // begins anew with each text
+       }) {
+    charset::Options options;
+    options.default_table = default_table;
+    options.overrule = overrule;
+    charset::Converter first(options);
+    charset::Converter moved(std::move(first));
+    EXPECT_EQ(moved.utf8(field_of(hex(field))), text) << default_table << ' ' << overrule << ' ' << field;
+    EXPECT_EQ(moved.utf8("plain"), moved.utf8("plain"));
+  }
+  charset::Options unknown;
+  unknown.overrule = "Klingon";
+  EXPECT_THROW(charset::Converter{unknown}, std::invalid_argument);
+  std::swap(unknown.overrule, unknown.default_table);
+  EXPECT_THROW(charset::Converter{unknown}, std::invalid_argument);
+}
+
+}  // namespace
+}  // namespace sivane::testing
