@@ -14,7 +14,7 @@ class FieldVisitor;
   /** Whether every member is equal. */                                           \
   bool operator==(Class const& other) const;                                      \
   /** The opposite. */                                                            \
-  bool operator!=(Class const\& other) const { return !(*this == other); }        \
+  bool operator!=(Class const& other) const { return !(*this == other); }         \
   /** Internal: names the members, from which the forms of the class are made. */ \
   void _fields(FieldList& f);
 
