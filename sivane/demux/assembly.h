@@ -32,7 +32,6 @@ class Demux::PidHandler::Assembly {
 
   void take_tail(unsigned char const* data, int size);
   void take_starts(unsigned char const* data, int size);
-  bool somebody_wants(int table_id) const;
   void deliver(unsigned char const* section, int size);
   void deliver_to_table(unsigned char const* section, int size);
   void deliver_to_filters(unsigned char const* section, int size);

@@ -5,38 +5,7 @@
 #include <sivane/foundation/parse_state.h>
 
 #define SIVANE_SET DescriptorSet
+#define SIVANE_SET_PARSE ParseDescriptor
 // NOLINTNEXTLINE(bugprone-macro-parentheses)
 #define SIVANE_SET_ROWS <sivane/descriptors/descriptor_rows.inc>
 #include <sivane/descriptors/set_rows.inc>
-
-namespace sivane {
-
-void DescriptorSet::ParseDescriptor(DescriptorBytes descriptor) {
-  int const row = row_of_tag[static_cast<std::size_t>(descriptor.tag())];
-  rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
-}
-
-void DescriptorSet::file_as_bytes(DescriptorBytes descriptor) {
-  int const row = descriptor.tag() < 0x80 ? row_number::get_general_descriptors
-                                          : row_number::get_user_private_descriptors;
-  rows[row].operations->parse(DescriptorStorage::vector(groups_, rows, row), descriptor);
-}
-
-void DescriptorSet::parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end) {
-  ParseState* const state = reader.state();
-  if (state != nullptr && state->has_options()) {
-    return file_descriptors(
-        reader, size, failure, end, [this](DescriptorBytes d) { ParseDescriptor(d); },
-        [this](DescriptorBytes d) { file_as_bytes(d); });
-  }
-  reader.descriptor_loop(size, failure, end, [this, state](DescriptorLoop& loop) {
-    DescriptorStorage::parse(groups_, rows, row_of_tag, loop);
-    if (state != nullptr) state->charge(loop.taken(), loop.last());
-  });
-}
-
-void DescriptorSet::clear_general_descriptors() {
-  DescriptorStorage::erase(groups_, row_number::get_general_descriptors);
-}
-
-}  // namespace sivane
