@@ -15,14 +15,15 @@
 
 namespace {
 
-/// Where memory runs out before `main`, in an object of a library that is made then, nobody can catch that.
+/// Called where an allocation fails: before `main`, in an object of a library that is made then, nobody could
+/// catch it, and streams keep it to themselves and lose part of what they were given.
 [[noreturn]] void leave_without_memory() {
   constexpr char line[] = "sivane-inspect: out of memory\n";
   [[maybe_unused]] ssize_t const ignored = write(STDERR_FILENO, line, sizeof line - 1);
   _exit(inspect::unusable);
 }
 
-[[gnu::constructor(101)]] void begin() { std::set_terminate(leave_without_memory); }
+[[gnu::constructor(101)]] void begin() { std::set_new_handler(leave_without_memory); }
 
 }  // namespace
 
