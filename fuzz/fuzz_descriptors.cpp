@@ -3,7 +3,7 @@
 //
 // Any bytes as a loop of descriptors that ends with its section: parse, name values, dump, copy, destroy. Bit
 // 0 of the first byte chooses the tag space of an AIT. A descriptor that is refused ends nothing, so that
-// every one of an input gets its turn.
+// every one of an input gets its turn. The loop that hosts have for descriptors of their own walks there too.
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
@@ -61,6 +61,23 @@ void exercise_loop(std::vector<unsigned char> const& block) {
   exercise(copy);
 }
 
+/// It gives what fits, and fails where something does not.
+void check_loop(std::vector<unsigned char> const& block) {
+  int const size = static_cast<int>(block.size());
+  int at = 0;
+  bool is_refused = false;
+  try {
+    for (sivane::DescriptorBytes const descriptor : sivane::DescriptorLoop(block.data(), size)) {
+      check(descriptor.tag() == block[static_cast<std::size_t>(at)], "descriptors lie one after the other");
+      at += 2 + descriptor.length();
+      check(at <= size, "a descriptor that is given lies in its loop");
+    }
+  } catch (sivane::error const&) {
+    is_refused = true;
+  }
+  check(is_refused == (at < size), "a loop gives all of its descriptors or fails");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
@@ -68,6 +85,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
   bool const is_ait = (input.byte() & 1) != 0;
   // A block of its own size: the address sanitizer sees each byte behind it.
   std::vector<unsigned char> const block = input.rest();
+  check_loop(block);
   is_ait ? exercise_loop<sivane::AitDescriptorSet>(block) : exercise_loop<sivane::DescriptorSet>(block);
   return 0;
 }

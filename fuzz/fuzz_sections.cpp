@@ -3,7 +3,7 @@
 //
 // Any bytes as a section. The first byte chooses: bit 0, whether section_length is made to fit; bit 1,
 // whether the CRC is put right; the others, the table class, and whether the section is made longer than the
-// longest one.
+// longest one. The section's last bytes choose options too.
 #include <sivane/sivane.h>
 
 #include <algorithm>
@@ -11,17 +11,23 @@
 #include <iterator>
 #include <memory>
 
+#include "exercise_options.h"
 #include "exercise_table.h"
 #include "section_builder.h"
 
 namespace {
 
-using sivane::fuzzing::exercise_table;
 using sivane::testing::Bytes;
+
+template <class Table>
+void exercise(unsigned char const* section, std::size_t available) {
+  sivane::fuzzing::exercise_table<Table>(section, available);
+  sivane::fuzzing::exercise_options<Table>(section, available);
+}
 
 /// In the order of the rows, so that the inputs at hand keep their meaning.
 constexpr void (*exercises[])(unsigned char const* section, std::size_t available) = {
-#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) &exercise_table<sivane::Class>,
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) &exercise<sivane::Class>,
 #include <sivane/tables/table_rows.inc>
 };
 
