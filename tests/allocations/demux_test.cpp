@@ -80,29 +80,6 @@ TEST(MemoryOfADemux, ThePacketPathTakesNone) {
   }
 }
 
-TEST(MemoryOfADemux, IsNotNeededToRemove) {
-  HookedHost host;
-  std::function<void()> const removals[] = {[&] { host.remove_psi_handler(pid, 0x42); },
-                                            [&] { host.reset(); }};
-  for (auto const& removal : removals) {
-    for (bool const stays : {false, true}) {  // the PID, through a second table id
-      host.add_psi_handler(pid, 0x42);
-      host.add_psi_handler(pid, nullptr, nullptr, 0, 1);
-      if (stays) host.add_psi_handler(pid, 0x46);
-      host.hook = [&] {
-        grant(0);
-        removal();
-        grant(-1);
-        host.hook = [] {};
-      };
-      host.sections = 0;
-      host.push(stream + stream);
-      EXPECT_EQ(host.sections, stays && host.pid_handlers.size() == 1 ? 3 : 1);
-      host.reset();
-    }
-  }
-}
-
 TEST(MemoryOfADemux, ComesBackWhenTheDeliveryEnds) {
   HookedHost host;
   host.hook = [&] {
@@ -118,27 +95,6 @@ TEST(MemoryOfADemux, ComesBackWhenTheDeliveryEnds) {
   host.push(stream + stream + stream);
   EXPECT_EQ(host.sections, 3);
   EXPECT_EQ(live_blocks(), before);
-}
-
-TEST(MemoryOfADemux, AFailedRegistrationLeavesNothing) {
-  for (bool const is_filter : {false, true}) {
-    HookedHost host;
-    int granted = 0;
-    for (bool is_done = false; !is_done; ++granted) {
-      std::size_t const before = live_blocks();
-      grant(granted);
-      try {
-        is_filter ? host.add_psi_handler(pid, nullptr, nullptr, 0, 1) : host.add_psi_handler(pid, 0x42);
-        is_done = true;
-      } catch (std::bad_alloc const&) {
-        grant(-1);
-        EXPECT_EQ(live_blocks(), before) << granted;
-        EXPECT_TRUE(host.pid_handlers.empty()) << granted;
-      }
-    }
-    grant(-1);
-    EXPECT_EQ(granted, 5);
-  }
 }
 
 }  // namespace

@@ -97,6 +97,7 @@ void expect_survival(std::string const& name) {
   with_every_refusal("delivering", [&] {
     Host host;
     host.add_psi_handler(0x100, section[0]);
+    host.add_psi_handler(0x101, nullptr, nullptr, 0, 1);
     host.push_data(writer.stream().data(), static_cast<int>(writer.stream().size()));
     EXPECT_EQ(host.sections, 1);
   });

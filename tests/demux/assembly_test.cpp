@@ -32,10 +32,11 @@ TEST(PacketHeader, NeedsTheSyncByte) {
   EXPECT_TRUE(throws([] { Demux::TSHeader(hex("48 00 00 00").data()); }, "TS syncbyte expected"));
 }
 
-Bytes const s20 = patterned_section(0x42, 20), s188 = patterned_section(0x42, 188),
-            s300 = patterned_section(0x42, 300), s366 = patterned_section(0x42, 366),
-            s500 = patterned_section(0x42, 500), other30 = patterned_section(0x46, 30),
-            other300 = patterned_section(0x46, 300), unhandled300 = patterned_section(0x4A, 300);
+Bytes const s20 = patterned_section(0x42, 20), s184 = patterned_section(0x42, 184),
+            s188 = patterned_section(0x42, 188), s300 = patterned_section(0x42, 300),
+            s366 = patterned_section(0x42, 366), s500 = patterned_section(0x42, 500),
+            other30 = patterned_section(0x46, 30), other300 = patterned_section(0x46, 300),
+            unhandled300 = patterned_section(0x4A, 300);
 
 Bytes head(Bytes const& section) { return start_packet(pid, part(section, 0, 183)); }
 Bytes next(Bytes const& payload) { return exact_packet(pid, false, payload); }
@@ -68,6 +69,7 @@ std::vector<Case> const cases = {
     {"a tail, and another handler's section",
      head(s188) + pointed(Bytes{5} + part(s188, 183, 188) + other30),
      {s188, other30}},
+    {"a tail of one byte", head(s184) + pointed(Bytes{1} + part(s184, 183, 184) + s20), {s184, s20}},
     {"a tail up to the packet's end", head(s366) + pointed(Bytes{183} + part(s366, 183, 366)), {s366}},
     {"a pointer one byte behind the packet",
      head(s366) + pointed(Bytes{184} + Bytes(183, 1)) + tail(s366),
@@ -171,14 +173,6 @@ TEST_F(SectionStream, LargestSectionWaitsForItsLastByte) {
   EXPECT_EQ(host.of_table(pid, 0x42).section_size, 4097);
   host.push(next(Bytes{largest.back()} + Bytes(183, 0xFF)));
   EXPECT_EQ(host.sections, Sections{largest});
-}
-
-TEST_F(SectionStream, InvalidateDropsTheTableHandlersBytesOnly) {
-  host.push(head(s300));
-  host.of_pid(pid).invalidate();
-  host.push(next(s20 + Bytes(97)));  // what is whole now, and was the end of 300 bytes
-  EXPECT_TRUE(host.sections.empty());
-  EXPECT_EQ(host.filtered.size(), 1u);
 }
 
 TEST_F(SectionStream, APayloadBeyondTheBufferEndsItsSection) {

@@ -68,30 +68,6 @@ TEST(Istream, EndsBehindTheLastWholePacketOrWhereItIsLostOrStopped) {
   }
 }
 
-/// A source of the host's own: gives a packet, and from then on the same answer.
-struct OwnSource : RecordingHost<Demux> {
-  OwnSource(bool answers, int of_size) : answer(answers), size(of_size) {}
-  bool answer;
-  int size, reads = 0;
-
-  bool read_buf(unsigned char* buffer, int wanted, int& got) override {
-    EXPECT_EQ(wanted, 188);
-    std::copy(plain.begin(), plain.end(), buffer);
-    got = reads++ == 0 ? 188 : size;
-    return reads == 1 || answer;
-  }
-};
-
-TEST(Pull, EndsAtAFalseOrAPartialRead) {
-  for (auto const& [answer, size] :
-       {std::pair{false, 0}, std::pair{true, 187}, std::pair{true, 189}, std::pair{false, 188}}) {
-    OwnSource source(answer, size);
-    EXPECT_EQ(source.start(), 1);
-    EXPECT_EQ(source.reads, 2);
-    EXPECT_EQ(source.calls, "raw;ts 256;");
-  }
-}
-
 /// Gives each PID its own packets, and ends after a number of passes.
 class PollingHost : public RecordingHost<Demux2> {
  public:

@@ -59,19 +59,6 @@ struct Sequence {
   }
 };
 
-TEST(EverySection, APacketThatLeadsOutOfItselfCutsTheSection) {
-  EveryHost host;
-  host.push(Sequence()
-                .add(true, Bytes{0} + part(s200, 0, 100))
-                .add(true, Bytes{183} + part(s200, 100, 200) + Bytes(83, 0xFF))
-                .add(true, Bytes{0} + part(s300, 0, 183))
-                .add(true, Bytes{184} + Bytes(183, 1))
-                .add(false, part(s300, 183, 300))
-                .stream);
-  EXPECT_EQ(host.sections, Sections{s200});
-  EXPECT_EQ(host.counters(pid)->cut_sections, 1u);
-}
-
 /// A packet in which `s200` ends, three sections lie, and `s300` begins.
 Bytes const full = Sequence()
                        .add(true, Bytes{0} + part(s200, 0, 150))

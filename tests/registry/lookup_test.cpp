@@ -51,16 +51,5 @@ TEST(RegistryLookup, FindsTheLastRowOfAnIdAndNoOther) {
   }
 }
 
-TEST(RegistryLookup, GivesTheNamesThatWerePublished) {
-  init();
-  EXPECT_STREQ(get_network_id(0x3001), "German Digital Terrestrial Television");
-  EXPECT_STREQ(get_network_id(0x0058), "(Thiacom 1 & 2 co-located 78.5\260E)");
-  EXPECT_STREQ(get_ca_system_id(0x01FF), "Canal Plus");
-  EXPECT_STREQ(get_mhp_id(0), "Reserved");
-  EXPECT_STREQ(get_private_data_id(-0x03030304), "France Telecom");
-  EXPECT_STREQ(get_data_broadcast_id(0x00F0), "MHP Object Carousel");
-  EXPECT_STREQ(get_original_network_id(0x0069), "(Optus B3 156\260E)");
-}
-
 }  // namespace
 }  // namespace sivane::testing
