@@ -28,7 +28,7 @@ configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUI
 # prefix.
 install_library() {
   local component
-  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom sivane_charset
+  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom sivane_charset sivane_catalogue
   rm -rf "$2"
   for component in runtime development dom; do
     cmake --install "$1" --prefix "$2" --component "$component" > /dev/null

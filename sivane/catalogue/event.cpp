@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/catalogue/event.h>
+
+#include <algorithm>
+
+namespace sivane::catalogue {
+
+std::string const& Event::title() const {
+  static std::string const none;
+  auto const named =
+      std::find_if(texts.begin(), texts.end(), [](EventText const& text) { return !text.title.empty(); });
+  return named == texts.end() ? none : named->title;
+}
+
+}  // namespace sivane::catalogue

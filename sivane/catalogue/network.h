@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/catalogue/keys.h>
+
+#include <optional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace sivane::catalogue {
+
+/// Where and how a transport stream is sent, by a delivery system descriptor (ETSI EN 300 468, 6.2.13). What
+/// its system does not have stays 0.
+struct Delivery {
+  /// The descriptor that tells it.
+  enum class System { satellite, cable, terrestrial };
+
+  System system = System::satellite;  ///< by the descriptor
+  std::optional<double> frequency;    ///< in Hz; none where a list of frequencies tells
+  double symbol_rate = 0;             ///< in symbols a second; satellite and cable
+  double bandwidth = 0;               ///< in Hz; terrestrial, 0 where reserved
+  double orbital_position = 0;        ///< in degrees; satellite
+  bool is_east = false;               ///< of Greenwich; satellite
+  int polarization = 0;               ///< 2 bits, as coded; satellite
+  int modulation = 0;  ///< as coded: satellite 5 bits, cable 8 bits, terrestrial the constellation's 2
+  int inner_code = 0;  ///< as coded: FEC_inner of 4 bits, terrestrial code_rate_HP_stream of 3
+
+  /// The members, as they are compared.
+  auto tied() const {
+    return std::tie(system, frequency, symbol_rate, bandwidth, orbital_position, is_east, polarization,
+                    modulation, inner_code);
+  }
+};
+
+/// A service as a list of a network names it.
+struct ListedService {
+  int service = 0;  ///< service_id, 16 bits
+  int type = 0;     ///< service_type, 8 bits
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(service, type); }
+};
+
+/// The place of a service in the viewer's list, in the forms of EACEM and NorDig.
+struct ChannelNumber {
+  int service = 0;         ///< service_id, 16 bits
+  int number = 0;          ///< logical_channel_number, 10 or 14 bits
+  bool is_visible = true;  ///< false where viewers are not shown it
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(service, number, is_visible); }
+};
+
+/// What a network or bouquet says of a transport stream.
+struct TransportStream {
+  std::vector<Delivery> deliveries;            ///< in the order of systems in `Delivery::System`
+  std::vector<ListedService> services;         ///< in the order of the lists
+  std::vector<ChannelNumber> channel_numbers;  ///< in the order of the descriptors
+  std::vector<int> ca_systems;                 ///< that its entry names, 16 bits each, rising
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(deliveries, services, channel_numbers, ca_systems); }
+};
+
+/// A name in one language.
+struct LocalName {
+  std::string language;  ///< ISO 639 code
+  std::string name;      ///< UTF-8
+  std::string provider;  ///< UTF-8; of services alone
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(language, name, provider); }
+};
+
+/// A network or a bouquet, by its own loop.
+struct Network {
+  std::string name;              ///< UTF-8; empty where it has none
+  std::vector<LocalName> names;  ///< in several languages
+  bool is_actual = false;        ///< it is the one that sends what is read; of networks alone
+  std::vector<int> ca_systems;   ///< that its own loop names, 16 bits each, rising
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(name, names, is_actual, ca_systems); }
+};
+
+}  // namespace sivane::catalogue

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <sivane/catalogue/values.h>
+
+#include <algorithm>
+
+namespace sivane::catalogue {
+
+std::string code_text(char const* code) {
+  std::string text(code);
+  for (char& c : text) {
+    bool const is_letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+    if (!is_letter) c = '?';
+  }
+  return text;
+}
+
+std::vector<ConditionalAccess> access_of(std::vector<DescriptorCa> const& descriptors) {
+  std::vector<ConditionalAccess> access;
+  access.reserve(descriptors.size());
+  for (DescriptorCa const& descriptor : descriptors) access.push_back({descriptor.sys_id, descriptor.pid});
+  return access;
+}
+
+std::vector<int> ca_systems_of(DescriptorSet const& set, std::vector<DescriptorCa> const& more) {
+  std::vector<int> systems;
+  for (auto const* descriptors : {&set.get_CA_descriptors(), &more}) {
+    for (DescriptorCa const& descriptor : *descriptors) systems.push_back(descriptor.sys_id);
+  }
+  for (auto const& descriptor : set.get_CA_identifiers_descriptors()) {
+    for (auto const& system : descriptor.CA_system_id) systems.push_back(system.CA_system_id);
+  }
+  make_unique(systems);
+  return systems;
+}
+
+std::vector<LocalName> names_of(std::vector<MultilingualNameInfo> const& names, charset::Converter& text) {
+  std::vector<LocalName> local;
+  local.reserve(names.size());
+  for (auto const& name : names) {
+    local.push_back({code_text(name.ISO_639_language_code), text.utf8(name.name), ""});
+  }
+  return local;
+}
+
+}  // namespace sivane::catalogue
