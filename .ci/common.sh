@@ -24,13 +24,16 @@ configure() {
 # The build with g++ that several checks share.
 configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON; }
 
+# The libraries over the core, as hosts ask for them.
+components=(dom charset)
+
 # install_library DIRECTORY PREFIX: builds the libraries alone and installs what a host needs of them into an empty
 # prefix.
 install_library() {
   local component
-  cmake --build "$1" --parallel "$jobs" --target sivane sivane_dom sivane_charset sivane_catalogue
+  cmake --build "$1" --parallel "$jobs" --target sivane "${components[@]/#/sivane_}"
   rm -rf "$2"
-  for component in runtime development dom; do
+  for component in runtime development "${components[@]}" "${components[@]/%/_runtime}"; do
     cmake --install "$1" --prefix "$2" --component "$component" > /dev/null
   done
 }
