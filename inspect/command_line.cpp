@@ -31,6 +31,14 @@ void add_options_of_streams(CLI::App& command, Arguments& arguments) {
                    "A descriptor that fails costs nothing else; the lists' way without being asked");
   command.add_flag("--strict", arguments.strict,
                    "A descriptor that fails costs its section; the others' way");
+  command
+      .add_option("--charset", arguments.charset,
+                  "The character table of texts that name none, as iconv calls it (ISO-8859-1)")
+      ->type_name("NAME");
+  command
+      .add_option("--charset-always", arguments.charset_always,
+                  "The character table of all texts, whatever they name")
+      ->type_name("NAME");
   command.add_flag("-q,--quiet", arguments.quiet,
                    "No progress, no counts at the end; failures are still told");
 }

@@ -34,7 +34,7 @@ constexpr CommandRow rows[] = {
      make<ServicesCommand>},
     {"events", "List the events with their times (UTC) and names", bytes, tolerant, make<EventsCommand>},
     {"programs",
-     "List programs with their PIDs, stream types, languages, CA systems and shares of the bit rate", bytes,
+     "List programs with their PIDs, stream types, languages, CA systems and shares of the packets", bytes,
      tolerant, make<ProgramsCommand>},
     {"networks", "List networks, bouquets and CA systems with their names", bytes, tolerant,
      make<NetworksCommand>},

@@ -5,6 +5,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <stdexcept>
 
 #include "input/dvb_input.h"
 #include "nearest_word.h"
@@ -63,6 +64,16 @@ Parsing parsing_of(CommandRow const& row, Arguments const& arguments) {
   return arguments.tolerant ? Parsing::tolerant : row.parsing;
 }
 
+sivane::charset::Options charset_of(Arguments const& arguments) {
+  sivane::charset::Options options{arguments.charset, arguments.charset_always, " ", "", ""};
+  try {
+    sivane::charset::Converter const tried(options);
+  } catch (std::invalid_argument const& reason) {
+    throw CLI::ValidationError("--charset", reason.what());
+  }
+  return options;
+}
+
 void refuse_negative_numbers(Arguments const& arguments) {
   constexpr double longest = 1e9;  // which is 30 years
   if (arguments.seconds && !(*arguments.seconds >= 0 && *arguments.seconds <= longest))
@@ -94,6 +105,7 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.follow = arguments.follow;
   options.quiet = arguments.quiet;
   options.source = arguments.source;
+  options.charset = charset_of(arguments);
   options.parsing = parsing_of(row, arguments);
   refuse_what_has_no_packets(options);
   return options;

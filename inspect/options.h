@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/charset/charset.h>
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +23,8 @@ struct Arguments {
   bool quiet = false;
   bool tolerant = false;
   bool strict = false;
+  std::string charset;
+  std::string charset_always;
   std::string source;
 };
 
@@ -34,6 +38,7 @@ struct Options {
   std::optional<long long> packets;
   bool follow = false;
   bool quiet = false;
+  sivane::charset::Options charset;
   std::string source;
 };
 

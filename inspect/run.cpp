@@ -75,7 +75,7 @@ ExitStatus run(Options const& options) {
   std::ostream out(&buffer);
   out.exceptions(std::ios::badbit);
   RunEnd end(options.seconds, [&out] { out.flush(); });
-  auto const command = options.command->make({out, buffer.is_terminal()});
+  auto const command = options.command->make({out, buffer.is_terminal(), options.charset});
   command->set_parsing(options.parsing);
   ExitStatus const status = read_all(options, *command, end);
   out.flush();

@@ -2,6 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/charset/charset.h>
+
 #include <iosfwd>
 #include <memory>
 #include <string>
@@ -27,7 +29,8 @@ enum class Parsing { strict, tolerant };
 /// What a command is made for.
 struct Showing {
   std::ostream& out;
-  bool is_terminal = false;  ///< a person may be looking at `out`
+  bool is_terminal = false;               ///< a person may be looking at `out`
+  sivane::charset::Options charset = {};  ///< how the texts of a broadcast become UTF-8
 };
 
 /// What the program does with the sections of its input. It numbers them from 1, and reports and counts those

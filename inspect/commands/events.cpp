@@ -10,16 +10,14 @@
 #include <tuple>
 #include <vector>
 
-#include "commands/raw_events.h"
 #include "console.h"
-#include "text/dvb_text.h"
 #include "text/terminal.h"
 
 namespace inspect {
 
 namespace {
 
-std::u32string two_digits(int number) { return plain(number / 10) + plain(number % 10); }
+std::string two_digits(int number) { return std::to_string(number / 10) + std::to_string(number % 10); }
 
 /// A time that is left open has all of its bits set, and no digits above 9 stand for one.
 template <class Time>
@@ -29,46 +27,53 @@ bool is_open(Time const& time) {
 
 /// Hours, minutes and seconds of a time or a duration.
 template <class Time>
-std::u32string clock_text(Time const& time) {
-  return two_digits(time.hour) + U':' + two_digits(time.minute) + U':' + two_digits(time.second);
+std::string clock_text(Time const& time) {
+  return two_digits(time.hour) + ':' + two_digits(time.minute) + ':' + two_digits(time.second);
 }
 
-std::u32string start_text(sivane::DateTime const& start) {
-  if (is_open(start)) return U"-";
-  return plain(start.year) + U'-' + two_digits(start.month) + U'-' + two_digits(start.day) + U' ' +
+std::string start_text(sivane::DateTime const& start) {
+  if (is_open(start)) return "-";
+  return std::to_string(start.year) + '-' + two_digits(start.month) + '-' + two_digits(start.day) + ' ' +
          clock_text(start);
 }
 
-std::u32string duration_text(sivane::Duration const& duration) {
-  return is_open(duration) ? U"-" : clock_text(duration);
+std::string duration_text(sivane::Duration const& duration) {
+  return is_open(duration) ? "-" : clock_text(duration);
 }
 
 std::array<int, 6> by_time(sivane::DateTime const& t) {
   return {t.year, t.month, t.day, t.hour, t.minute, t.second};
 }
 
+/// The first that is there; null where there is none.
+sivane::Text const* name_of(sivane::Eit::EventInfo const& event) {
+  for (auto const& descriptor : event.get_short_event_descriptors()) {
+    sivane::Text const& name = descriptor.event_name;
+    if (!name.empty() || name.selector() >= 0) return &name;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 void EventsCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x48});  // service; the events' names are read from their bytes
+  options.build_only({0x48, 0x4D});  // service, short event
 }
 
 void EventsCommand::show(Section const& section) {
   auto const table = table_of(section);
   if (!table) return;
-  services_.take(*table);
-  if (auto const* const eit = current_as<sivane::Eit>(*table)) take(*eit, section);
+  services_.take(*table, texts_);
+  if (auto const* const eit = current_as<sivane::Eit>(*table)) take(*eit);
 }
 
-void EventsCommand::take(sivane::Eit const& eit, Section const& section) {
+void EventsCommand::take(sivane::Eit const& eit) {
   ServiceId const service{eit.original_network_id, eit.transport_stream_id, eit.context_id};
-  std::vector<std::string> const names = event_names(section.bytes);
-  for (std::size_t i = 0; i < eit.event_infos.size(); ++i) {
-    auto const& info = eit.event_infos[i];
+  for (auto const& info : eit.event_infos) {
     Event& event = events_[{service, info.event_id}];
     event.start = info.start_time;
     event.duration = info.duration;
-    if (i < names.size() && !names[i].empty()) event.name = dvb_text(names[i]);
+    if (sivane::Text const* const name = name_of(info)) event.name = texts_.utf8(*name);
   }
 }
 
@@ -80,12 +85,12 @@ void EventsCommand::finish() {
     return std::make_tuple(left->first.first, by_time(left->second.start)) <
            std::make_tuple(right->first.first, by_time(right->second.start));
   });
-  Columns columns({U"start (UTC)", U"duration", U"service", U"event"});
+  Columns columns({"start (UTC)", "duration", "service", "event"});
   for (Entry const* const entry : sorted) {
     auto const& [key, event] = *entry;
-    std::u32string const name = services_.name_of(key.first);
+    std::string const name = services_.name_of(key.first);
     columns.add({start_text(event.start), duration_text(event.duration),
-                 plain(key.first.service) + (name.empty() ? U"" : U" " + name), event.name});
+                 std::to_string(key.first.service) + (name.empty() ? "" : " " + name), event.name});
   }
   if (columns.empty()) {
     note("no event is announced");

@@ -16,21 +16,22 @@ namespace inspect {
 /// Lists the events that the EITs announce, by service and time.
 class EventsCommand final : public Command {
  public:
-  explicit EventsCommand(Showing const& showing) : out_(showing.out) {}
+  explicit EventsCommand(Showing const& showing) : out_(showing.out), texts_(showing.charset) {}
   void finish() override;
 
  private:
   struct Event {
     sivane::DateTime start;
     sivane::Duration duration;
-    std::u32string name;
+    std::string name;
   };
 
   void show(Section const& section) override;
   void choose_tags(sivane::ParseOptions& options) const override;
-  void take(sivane::Eit const& eit, Section const& section);
+  void take(sivane::Eit const& eit);
 
   std::ostream& out_;
+  sivane::charset::Converter texts_;
   ServiceList services_;
   std::map<std::pair<ServiceId, int>, Event> events_;  // by service and event id; what was sent last counts
 };

@@ -9,7 +9,6 @@
 #include <sstream>
 
 #include "console.h"
-#include "text/dvb_text.h"
 #include "text/names.h"
 #include "text/terminal.h"
 
@@ -49,24 +48,24 @@ void write_each(std::ostream& text, Descriptors const& descriptors) {
   for (auto const& descriptor : descriptors) write(text << ": ", descriptor);
 }
 
-std::u32string delivery_of(sivane::DescriptorSet const& entry) {
+std::string delivery_of(sivane::DescriptorSet const& entry) {
   std::ostringstream text;
   text.exceptions(std::ios::badbit);
   text << std::setprecision(digits_of_frequencies);
   write_each(text, entry.get_satellite_delivery_system_descriptors());
   write_each(text, entry.get_cable_delivery_system_descriptors());
   write_each(text, entry.get_terrestrial_delivery_system_descriptors());
-  return plain(text.str());
+  return text.str();
 }
 
-std::u32string name_of(sivane::Nit const& nit) {
+std::string name_of(sivane::Nit const& nit, sivane::charset::Converter& texts) {
   auto const& names = nit.get_network_name_descriptors();
-  return names.empty() ? std::u32string() : dvb_text(names.front().network_name);
+  return names.empty() ? std::string() : texts.utf8(names.front().network_name);
 }
 
-std::u32string name_of(sivane::Bat const& bat) {
+std::string name_of(sivane::Bat const& bat, sivane::charset::Converter& texts) {
   auto const& names = bat.get_bouquet_descriptors();
-  return names.empty() ? std::u32string() : dvb_text(names.front().bouquet_name);
+  return names.empty() ? std::string() : texts.utf8(names.front().bouquet_name);
 }
 
 void collect(std::vector<sivane::DescriptorCa> const& descriptors, std::set<int>& systems) {
@@ -86,7 +85,7 @@ template <class Table>
 void NetworksCommand::take_group(Table const& table, Group& group) {
   collect(table, ca_systems_);
   collect(table.ca_descriptors, ca_systems_);
-  if (std::u32string const name = name_of(table); !name.empty()) group.name = name;
+  if (std::string const name = name_of(table, texts_); !name.empty()) group.name = name;
   for (auto const& stream : table.stream_infos) {
     group.streams[{stream.network_id, stream.stream_id}] = delivery_of(stream);
     collect(stream, ca_systems_);
@@ -114,14 +113,14 @@ void NetworksCommand::show(Section const& section) {
 
 /// Numbers change hands: where a group does not call itself what it was registered as, the list's year is
 /// told.
-std::u32string NetworksCommand::title(Kind const& kind, int id, std::u32string const& name) {
-  if (name.empty()) return kind.name + U' ' + numbered(kind.lookup, id);
-  std::u32string const registered = registered_name(kind.lookup, id);
-  std::u32string title = kind.name + U' ' + plain(id);
-  if (registered == name) title += U" (" + registered + U")";
+std::string NetworksCommand::title(Kind const& kind, int id, std::string const& name) {
+  if (name.empty()) return kind.name + ' ' + numbered(kind.lookup, id);
+  std::string const registered = registered_name(kind.lookup, id);
+  std::string title = kind.name + ' ' + std::to_string(id);
+  if (registered == name) title += " (" + registered + ")";
   if (!registered.empty() && registered != name)
-    title += U" (registered in " + kind.year + U": " + registered + U")";
-  return title + U": " + name;
+    title += " (registered in " + kind.year + ": " + registered + ")";
+  return title + ": " + name;
 }
 
 template <class Groups>
@@ -129,7 +128,7 @@ void NetworksCommand::print(Groups const& groups, Kind const& kind) const {
   for (auto const& [id, group] : groups) {
     out_ << for_terminal(title(kind, id, group.name)) << '\n';
     for (auto const& [stream, delivery] : group.streams) {
-      out_ << for_terminal(U"  stream " + plain(stream.second) + U" of network " +
+      out_ << for_terminal("  stream " + std::to_string(stream.second) + " of network " +
                            numbered(sivane::get_original_network_id, stream.first) + delivery)
            << '\n';
     }
@@ -137,10 +136,10 @@ void NetworksCommand::print(Groups const& groups, Kind const& kind) const {
 }
 
 void NetworksCommand::finish() {
-  print(networks_, {U"network", sivane::get_network_id, U"2008"});
-  print(bouquets_, {U"bouquet", sivane::get_bouquet_id, U"2003"});
+  print(networks_, {"network", sivane::get_network_id, "2008"});
+  print(bouquets_, {"bouquet", sivane::get_bouquet_id, "2003"});
   for (int const id : ca_systems_) {
-    out_ << for_terminal(U"CA system " + numbered_ca_system(id)) << '\n';
+    out_ << for_terminal("CA system " + numbered_ca_system(id)) << '\n';
   }
   if (networks_.empty() && bouquets_.empty() && ca_systems_.empty()) note("no network is described");
 }

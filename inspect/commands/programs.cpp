@@ -18,34 +18,34 @@ namespace {
 constexpr int null_pid = 0x1FFF;
 
 /// PIDs that every stream uses alike (ETSI EN 300 468, table 1).
-std::u32string usual_content(int pid) {
+std::string usual_content(int pid) {
   switch (pid) {
     case 0x0000:
-      return U"PAT";
+      return "PAT";
     case 0x0001:
-      return U"CAT";
+      return "CAT";
     case 0x0002:
-      return U"TSDT";
+      return "TSDT";
     case 0x0010:
-      return U"NIT";
+      return "NIT";
     case 0x0011:
-      return U"SDT, BAT";
+      return "SDT, BAT";
     case 0x0012:
-      return U"EIT";
+      return "EIT";
     case 0x0013:
-      return U"RST";
+      return "RST";
     case 0x0014:
-      return U"TDT, TOT";
+      return "TDT, TOT";
     case 0x0015:
-      return U"network synchronisation";
+      return "network synchronisation";
     case 0x001E:
-      return U"DIT";
+      return "DIT";
     case 0x001F:
-      return U"SIT";
+      return "SIT";
     case null_pid:
-      return U"null packets";
+      return "null packets";
     default:
-      return U"unreferenced";
+      return "unreferenced";
   }
 }
 
@@ -74,17 +74,17 @@ std::set<std::string> languages_of(sivane::PmtStreamInfo const& stream) {
   return languages;
 }
 
-std::u32string joined(std::set<std::string> const& words) {
+std::string joined(std::set<std::string> const& words) {
   std::string text;
   for (std::string const& word : words) text += (text.empty() ? "" : ", ") + word;
-  return plain(text);
+  return text;
 }
 
-std::u32string share_text(unsigned long long packets, unsigned long long total) {
+std::string share_text(unsigned long long packets, unsigned long long total) {
   char text[16];
   std::snprintf(text, sizeof text, "%.2f %%",
                 100.0 * static_cast<double>(packets) / static_cast<double>(total));
-  return plain(text);
+  return text;
 }
 
 }  // namespace
@@ -102,7 +102,7 @@ void ProgramsCommand::show(Section const& section) {
   if (auto const* const pat = current_as<sivane::Pat>(*table)) take(*pat);
   if (auto const* const cat = current_as<sivane::Cat>(*table)) take(*cat);
   if (auto const* const pmt = current_as<sivane::Pmt>(*table)) take(*pmt);
-  services_.take(*table);
+  services_.take(*table, texts_);
 }
 
 void ProgramsCommand::take(sivane::Pat const& pat) {
@@ -112,10 +112,10 @@ void ProgramsCommand::take(sivane::Pat const& pat) {
 }
 
 void ProgramsCommand::take(sivane::Cat const& cat) {
-  for (auto const& descriptor : cat.get_CA_descriptors()) add_ca(common_, descriptor, U"EMM");
+  for (auto const& descriptor : cat.get_CA_descriptors()) add_ca(common_, descriptor, "EMM");
 }
 
-void ProgramsCommand::add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char32_t const* what) {
+void ProgramsCommand::add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char const* what) {
   Content& content = pids[descriptor.pid];
   if (content.what.empty()) content.what = what;
   content.ca_systems.insert(descriptor.sys_id);
@@ -123,61 +123,61 @@ void ProgramsCommand::add_ca(Pids& pids, sivane::DescriptorCa const& descriptor,
 
 void ProgramsCommand::take(sivane::Pmt const& pmt) {
   Pids pids;
-  for (auto const& descriptor : pmt.get_CA_descriptors()) add_ca(pids, descriptor, U"ECM");
+  for (auto const& descriptor : pmt.get_CA_descriptors()) add_ca(pids, descriptor, "ECM");
   for (auto const& stream : pmt.stream_infos) take_stream(stream, pids);
   if (pmt.pcr_pid != null_pid) {
-    std::u32string& what = pids[pmt.pcr_pid].what;
-    what += what.empty() ? U"PCR" : U", PCR";
+    std::string& what = pids[pmt.pcr_pid].what;
+    what += what.empty() ? "PCR" : ", PCR";
   }
   programs_[pmt.context_id] = pids;
 }
 
 void ProgramsCommand::take_stream(sivane::PmtStreamInfo const& stream, Pids& pids) {
   Content& content = pids[stream.elementary_pid];
-  content.what = plain(stream_type_text(stream));
+  content.what = stream_type_text(stream);
   content.languages = languages_of(stream);
   for (auto const& descriptor : stream.get_CA_descriptors()) {
     content.ca_systems.insert(descriptor.sys_id);
-    add_ca(pids, descriptor, U"ECM");
+    add_ca(pids, descriptor, "ECM");
   }
 }
 
 /// A service has the number of its program.
-std::u32string ProgramsCommand::map_content(int number) const {
+std::string ProgramsCommand::map_content(int number) const {
   for (auto const& [id, service] : services_.all()) {
-    if (id.service == number && !service.name.empty()) return U"PMT of " + service.name;
+    if (id.service == number && !service.name.empty()) return "PMT of " + service.name;
   }
-  return U"PMT";
+  return "PMT";
 }
 
-void ProgramsCommand::add_row(Columns& columns, std::u32string const& program, int pid,
+void ProgramsCommand::add_row(Columns& columns, std::string const& program, int pid,
                               Content const& content) const {
-  std::u32string packets = U"-", share = U"-";
+  std::string packets = "-", share = "-";
   if (counts_.total > 0) {
     auto const found = counts_.by_pid.find(pid);
     unsigned long long const count = found == counts_.by_pid.end() ? 0 : found->second;
-    packets = plain(grouped(static_cast<long long>(count)));
+    packets = grouped(static_cast<long long>(count));
     share = share_text(count, counts_.total);
   }
-  columns.add({program, plain(c_hexadecimal(pid, 2)), content.what, joined(content.languages),
+  columns.add({program, c_hexadecimal(pid, 2), content.what, joined(content.languages),
                ca_systems(content.ca_systems), packets, share});
 }
 
 void ProgramsCommand::finish() {
-  Columns columns({U"program", U"PID", U"content", U"languages", U"CA systems", U"packets", U"share"});
+  Columns columns({"program", "PID", "content", "languages", "CA systems", "packets", "share"});
   std::set<int> listed;
   for (auto const& [number, map_pid] : program_map_pids_) {
-    add_row(columns, plain(number), map_pid, {map_content(number), {}, {}});
+    add_row(columns, std::to_string(number), map_pid, {map_content(number), {}, {}});
     listed.insert(map_pid);
     for (auto const& [pid, content] : programs_[number]) {
-      add_row(columns, plain(number), pid, content);
+      add_row(columns, std::to_string(number), pid, content);
       listed.insert(pid);
     }
   }
   for (auto const& [pid, count] : counts_.by_pid)
     common_.try_emplace(pid, Content{usual_content(pid), {}, {}});
   for (auto const& [pid, content] : common_) {
-    if (!listed.contains(pid)) add_row(columns, U"-", pid, content);
+    if (!listed.contains(pid)) add_row(columns, "-", pid, content);
   }
   if (columns.empty()) {
     note("no program is described");

@@ -20,14 +20,14 @@ namespace inspect {
 /// Lists programs with the PIDs that they are made of, and what share of the stream each PID has.
 class ProgramsCommand final : public Command {
  public:
-  explicit ProgramsCommand(Showing const& showing) : out_(showing.out) {}
+  explicit ProgramsCommand(Showing const& showing) : out_(showing.out), texts_(showing.charset) {}
   void finish() override;
   bool wants_packets() const override { return true; }
   void take_packets(PacketCounts const& counts) override { counts_ = counts; }
 
  private:
   struct Content {
-    std::u32string what;
+    std::string what;
     std::set<std::string> languages;
     std::set<int> ca_systems;
   };
@@ -39,12 +39,13 @@ class ProgramsCommand final : public Command {
   void take(sivane::Cat const& cat);
   void take(sivane::Pmt const& pmt);
   /// Several systems may share a PID.
-  static void add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char32_t const* what);
+  static void add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char const* what);
   void take_stream(sivane::PmtStreamInfo const& stream, Pids& pids);
-  std::u32string map_content(int number) const;
-  void add_row(Columns& columns, std::u32string const& program, int pid, Content const& content) const;
+  std::string map_content(int number) const;
+  void add_row(Columns& columns, std::string const& program, int pid, Content const& content) const;
 
   std::ostream& out_;
+  sivane::charset::Converter texts_;
   std::map<int, int> program_map_pids_;  // by program_number
   std::map<int, Pids> programs_;         // by program_number
   ServiceList services_;

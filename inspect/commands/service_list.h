@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/charset/charset.h>
 #include <sivane/tables/pmt.h>
 #include <sivane/tables/sdt.h>
 
@@ -22,7 +23,7 @@ struct ServiceId {
 
 struct Service {
   int type = -1;  ///< -1 without a service descriptor
-  std::u32string name, provider;
+  std::string name, provider;
   int running_status = 0;
   bool is_scrambled = false;
   std::set<int> ca_systems;  ///< that the SDT names
@@ -32,16 +33,16 @@ struct Service {
 class ServiceList {
  public:
   /// Takes what there is in an SDT or, for the CA systems of programs, in a PMT.
-  void take(Table const& table);
+  void take(Table const& table, sivane::charset::Converter& texts);
 
   std::map<ServiceId, Service> const& all() const { return services_; }
   /// The CA systems that the SDT or the program map names.
   std::set<int> ca_systems_of(ServiceId const& id) const;
   /// Empty where the service is not known.
-  std::u32string name_of(ServiceId const& id) const;
+  std::string name_of(ServiceId const& id) const;
 
  private:
-  void take(sivane::Sdt const& sdt);
+  void take(sivane::Sdt const& sdt, sivane::charset::Converter& texts);
 
   std::map<ServiceId, Service> services_;
   std::map<int, std::set<int>> programs_;  // their CA systems

@@ -17,21 +17,21 @@ namespace inspect {
 
 namespace {
 
-std::u32string running_text(int status) {
+std::string running_text(int status) {
   constexpr char const* texts[] = {"-", "not running", "starts soon", "pausing", "running", "off-air"};
-  return plain(static_cast<std::size_t>(status) < std::size(texts) ? texts[status] : "-");
+  return static_cast<std::size_t>(status) < std::size(texts) ? texts[status] : "-";
 }
 
-std::u32string type_text(int type) {
-  if (type < 0) return U"-";
+std::string type_text(int type) {
+  if (type < 0) return "-";
   std::string_view const text = service_type_text(type);
-  return plain(text.empty() ? c_hexadecimal(type, 1) : text);
+  return text.empty() ? c_hexadecimal(type, 1) : std::string(text);
 }
 
-std::u32string access_text(Service const& service, std::set<int> const& systems) {
-  std::u32string const names = ca_systems(systems);
-  if (!service.is_scrambled) return names.empty() ? U"free" : U"free (" + names + U")";
-  return names.empty() ? U"scrambled" : U"scrambled (" + names + U")";
+std::string access_text(Service const& service, std::set<int> const& systems) {
+  std::string const names = ca_systems(systems);
+  if (!service.is_scrambled) return names.empty() ? "free" : "free (" + names + ")";
+  return names.empty() ? "scrambled" : "scrambled (" + names + ")";
 }
 
 }  // namespace
@@ -41,15 +41,16 @@ void ServicesCommand::choose_tags(sivane::ParseOptions& options) const {
 }
 
 void ServicesCommand::show(Section const& section) {
-  if (auto const table = table_of(section)) services_.take(*table);
+  if (auto const table = table_of(section)) services_.take(*table, texts_);
 }
 
 void ServicesCommand::finish() {
-  Columns columns({U"network", U"stream", U"service", U"name", U"provider", U"type", U"status", U"access"});
+  Columns columns({"network", "stream", "service", "name", "provider", "type", "status", "access"});
   for (auto const& [id, service] : services_.all()) {
-    columns.add({numbered(sivane::get_original_network_id, id.original_network), plain(id.transport_stream),
-                 plain(id.service), service.name, service.provider, type_text(service.type),
-                 running_text(service.running_status), access_text(service, services_.ca_systems_of(id))});
+    columns.add({numbered(sivane::get_original_network_id, id.original_network),
+                 std::to_string(id.transport_stream), std::to_string(id.service), service.name,
+                 service.provider, type_text(service.type), running_text(service.running_status),
+                 access_text(service, services_.ca_systems_of(id))});
   }
   if (columns.empty()) {
     note("no service is described");

@@ -12,7 +12,7 @@ namespace inspect {
 /// Lists the services that the SDTs describe.
 class ServicesCommand final : public Command {
  public:
-  explicit ServicesCommand(Showing const& showing) : out_(showing.out) {}
+  explicit ServicesCommand(Showing const& showing) : out_(showing.out), texts_(showing.charset) {}
   void finish() override;
 
  private:
@@ -20,6 +20,7 @@ class ServicesCommand final : public Command {
   void choose_tags(sivane::ParseOptions& options) const override;
 
   std::ostream& out_;
+  sivane::charset::Converter texts_;
   ServiceList services_;
 };
 

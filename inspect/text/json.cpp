@@ -4,12 +4,11 @@
 
 #include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
+#include <sivane/charset/utf8.h>
 
 #include <cmath>
 #include <ostream>
 #include <string>
-
-#include "text/utf8.h"
 
 namespace inspect {
 
@@ -22,8 +21,8 @@ using Size = rapidjson::SizeType;
 std::string with_replacements(std::string_view text) {
   std::string valid;
   while (!text.empty()) {
-    Utf8 const first = first_of_utf8(text);
-    append_utf8(valid, first.is_valid ? first.character : U'�');
+    sivane::charset::Utf8 const first = sivane::charset::first_of_utf8(text);
+    sivane::charset::append_utf8(valid, first.is_valid ? first.character : U'�');
     text.remove_prefix(first.size);
   }
   return valid;

@@ -10,12 +10,12 @@ namespace inspect {
 // Registered names as people read them: without the blanks and "&nbsp;" that the lists left in them.
 
 /// The name alone; empty where the number is not registered.
-std::u32string registered_name(char const* (*lookup)(int), int id);
+std::string registered_name(char const* (*lookup)(int), int id);
 /// The number and, where there is one, the name in brackets: "1 (Astra Satellite Network 19,2°E)".
-std::u32string numbered(char const* (*lookup)(int), int id);
+std::string numbered(char const* (*lookup)(int), int id);
 /// Of a CA system, whose number is known in hexadecimal: "0x0100 (Canal Plus)".
-std::u32string numbered_ca_system(int id);
+std::string numbered_ca_system(int id);
 /// The names of CA systems with a comma between.
-std::u32string ca_systems(std::set<int> const& ids);
+std::string ca_systems(std::set<int> const& ids);
 
 }  // namespace inspect

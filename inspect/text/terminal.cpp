@@ -4,12 +4,12 @@
 
 #include <langinfo.h>
 #include <locale.h>
+#include <sivane/charset/encoder.h>
+#include <sivane/charset/utf8.h>
 #include <wchar.h>
 
 #include <algorithm>
 #include <ostream>
-
-#include "text/conversion.h"
 
 namespace inspect {
 
@@ -28,19 +28,25 @@ std::string terminal_encoding() {
 
 }  // namespace
 
-std::string for_terminal(std::u32string_view text) {
+std::string for_terminal(std::string_view text) {
   static std::string const encoding = terminal_encoding();
-  return from_unicode(text, encoding);
+  bool const is_ascii =
+      std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  if (is_ascii || encoding == "UTF-8") return std::string(text);
+  static sivane::charset::Encoder encoder(encoding);
+  return encoder.encode(text);
 }
 
-int width_of(std::u32string_view text) {
+int width_of(std::string_view text) {
   // The user's locale may know fewer characters than the terminal shows.
   static locale_t const unicode = characters_of("C.UTF-8");
   locale_t const before = unicode != nullptr ? uselocale(unicode) : uselocale(nullptr);
   int width = 0;
-  for (char32_t const c : text) {
-    int const cells = wcwidth(static_cast<wchar_t>(c));
+  while (!text.empty()) {
+    sivane::charset::Utf8 const next = sivane::charset::first_of_utf8(text);
+    int const cells = wcwidth(static_cast<wchar_t>(next.character));
     width += cells < 0 ? 1 : cells;
+    text.remove_prefix(next.size);
   }
   uselocale(before);
   return width;
@@ -53,16 +59,12 @@ void Columns::print(std::ostream& out) const {
     for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], width_of(row[i]));
   }
   for (auto const& row : rows_) {
-    std::u32string line;
+    std::string line;
     for (std::size_t i = 0; i < row.size(); ++i) {
-      line += row[i] + std::u32string(static_cast<std::size_t>(widths[i] - width_of(row[i])) + 2, U' ');
+      line += row[i] + std::string(static_cast<std::size_t>(widths[i] - width_of(row[i])) + 2, ' ');
     }
-    out << for_terminal(line.substr(0, line.find_last_not_of(U' ') + 1)) << '\n';
+    out << for_terminal(line.substr(0, line.find_last_not_of(' ') + 1)) << '\n';
   }
 }
-
-std::u32string plain(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
-
-std::u32string plain(long long number) { return plain(std::to_string(number)); }
 
 }  // namespace inspect

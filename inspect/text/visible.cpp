@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include "text/visible.h"
 
-#include "text/utf8.h"
+#include <sivane/charset/utf8.h>
 
 namespace inspect {
 
@@ -28,7 +28,7 @@ std::string visible(std::string_view text) {
   std::string shown;
   shown.reserve(text.size());
   while (!text.empty()) {
-    Utf8 const next = first_of_utf8(text);
+    sivane::charset::Utf8 const next = sivane::charset::first_of_utf8(text);
     std::string_view const bytes = text.substr(0, next.size);
     if (next.is_valid && !is_control(next.character)) {
       shown += bytes;

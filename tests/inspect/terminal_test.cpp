@@ -21,9 +21,9 @@ TEST(InspectText, ShowsWhatCouldSteerATerminal) {
 }
 
 TEST(InspectText, CountsTheCellsOfATerminal) {
-  std::pair<char32_t const*, int> const texts[] = {
-      {U"", 0},           {U"A\u00e9", 2}, {U"e\u0301", 1},      {U"\u4e2d\u6587!", 5}, {U"\uac00\uff01", 4},
-      {U"\U0001F600", 2}, {U"\u2713", 1},  {U"\u0E01\u0E34", 1}, {U"\uFFFD", 1}};
+  std::pair<char const*, int> const texts[] = {
+      {"", 0},           {"A\u00e9", 2}, {"e\u0301", 1},      {"\u4e2d\u6587!", 5}, {"\uac00\uff01", 4},
+      {"\U0001F600", 2}, {"\u2713", 1},  {"\u0E01\u0E34", 1}, {"\uFFFD", 1}};
   for (auto const& [text, cells] : texts) EXPECT_EQ(::inspect::width_of(text), cells) << cells;
 }
 
