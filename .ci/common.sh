@@ -25,7 +25,7 @@ configure() {
 configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON; }
 
 # The libraries over the core, as hosts ask for them.
-components=(dom charset)
+components=(dom charset catalogue)
 
 # install_library DIRECTORY PREFIX: builds the libraries alone and installs what a host needs of them into an empty
 # prefix.

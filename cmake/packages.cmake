@@ -100,6 +100,9 @@ if(TARGET sivane_charset)
   endif()
   sivane_install_component(charset "Texts of broadcasts as UTF-8" ${iconv})
 endif()
+if(TARGET sivane_catalogue)
+  sivane_install_component(catalogue "What a stream has, put together from its tables" COMPONENTS charset)
+endif()
 configure_package_config_file(cmake/sivaneConfig.cmake.in ${PROJECT_BINARY_DIR}/sivaneConfig.cmake
   INSTALL_DESTINATION ${SIVANE_CMAKE_DIR})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/sivaneConfigVersion.cmake COMPATIBILITY SameMinorVersion)
@@ -113,7 +116,8 @@ if(TARGET sivane-inspect)
   endif()
   # Version 0 promises no stable interface, so that tool and libraries are of the same build.
   sivane_package(inspect sivane-inspect utils "The command-line tool that shows what a stream holds."
-    "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})" "libsivane-charset${SIVANE_INTERFACE} (= ${PROJECT_VERSION})")
+    "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})" "libsivane-charset${SIVANE_INTERFACE} (= ${PROJECT_VERSION})"
+    "libsivane-catalogue${SIVANE_INTERFACE} (= ${PROJECT_VERSION})")
   set(CPACK_DEBIAN_INSPECT_PACKAGE_SHLIBDEPS ON)
 endif()
 

@@ -5,15 +5,23 @@
 #include <sivane/sivane.h>
 
 #include <cstdio>
+#include <map>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "console.h"
 #include "text/hexadecimal.h"
 #include "text/names.h"
 #include "text/stream_types.h"
+#include "text/terminal.h"
 
 namespace inspect {
 
 namespace {
+
+using namespace sivane::catalogue;
 
 constexpr int null_pid = 0x1FFF;
 
@@ -49,32 +57,14 @@ std::string usual_content(int pid) {
   }
 }
 
-/// Languages come from the air: what is no letter is shown as "?".
-std::string language(char const (&code)[4]) {
-  std::string text(code);
-  for (char& c : text) {
-    bool const is_letter = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-    if (!is_letter) c = '?';
-  }
-  return text;
-}
+struct Content {
+  std::string what;
+  std::vector<std::string> languages;
+  std::set<int> ca_systems;
+};
+using Pids = std::map<int, Content>;
 
-std::set<std::string> languages_of(sivane::PmtStreamInfo const& stream) {
-  std::set<std::string> languages;
-  for (auto const& descriptor : stream.get_ISO_639_language_descriptors()) {
-    for (auto const& item : descriptor.language_vector)
-      languages.insert(language(item.ISO_639_language_code));
-  }
-  for (auto const& descriptor : stream.get_subtitling_descriptors()) {
-    for (auto const& item : descriptor.subtitlinginfo) languages.insert(language(item.ISO_639_language_code));
-  }
-  for (auto const& descriptor : stream.get_teletext_descriptors()) {
-    for (auto const& item : descriptor.teletextitems) languages.insert(language(item.language_code));
-  }
-  return languages;
-}
-
-std::string joined(std::set<std::string> const& words) {
+std::string joined(std::vector<std::string> const& words) {
   std::string text;
   for (std::string const& word : words) text += (text.empty() ? "" : ", ") + word;
   return text;
@@ -87,6 +77,75 @@ std::string share_text(unsigned long long packets, unsigned long long total) {
   return text;
 }
 
+/// Several systems may share a PID.
+void add_access(Pids& pids, std::vector<ConditionalAccess> const& access, char const* what) {
+  for (ConditionalAccess const& one : access) {
+    Content& content = pids[one.pid];
+    if (content.what.empty()) content.what = what;
+    content.ca_systems.insert(one.system);
+  }
+}
+
+void add_stream(Pids& pids, ElementaryStream const& stream) {
+  Content& content = pids[stream.pid];
+  content.what = stream_type_text(stream);
+  content.languages = stream.languages;
+  for (ConditionalAccess const& one : stream.access) content.ca_systems.insert(one.system);
+  add_access(pids, stream.access, "ECM");
+}
+
+Pids pids_of(Program const& program) {
+  Pids pids;
+  add_access(pids, program.access, "ECM");
+  for (ElementaryStream const& stream : program.streams) add_stream(pids, stream);
+  if (program.pcr_pid != Program::no_pcr) {
+    std::string& what = pids[program.pcr_pid].what;
+    what += what.empty() ? "PCR" : ", PCR";
+  }
+  return pids;
+}
+
+/// A service has the number of its program.
+std::string map_content(Catalogue const& catalogue, int number) {
+  for (auto const& [key, service] : catalogue.services()) {
+    if (key.service == number && !service.name.empty()) return "PMT of " + service.name;
+  }
+  return "PMT";
+}
+
+/// The rows of the list.
+class Rows {
+ public:
+  explicit Rows(PacketCounts const& counts) : counts_(counts) {}
+
+  void add(std::string const& program, int pid, Content const& content) {
+    std::string packets = "-", share = "-";
+    if (counts_.total > 0) {
+      auto const found = counts_.by_pid.find(pid);
+      unsigned long long const count = found == counts_.by_pid.end() ? 0 : found->second;
+      packets = grouped(static_cast<long long>(count));
+      share = share_text(count, counts_.total);
+    }
+    columns_.add({program, c_hexadecimal(pid, 2), content.what, joined(content.languages),
+                  ca_systems(content.ca_systems), packets, share});
+    listed_.insert(pid);
+  }
+  /// Those that belong to no program.
+  void add_others(Pids others) {
+    for (auto const& [pid, count] : counts_.by_pid)
+      others.try_emplace(pid, Content{usual_content(pid), {}, {}});
+    for (auto const& [pid, content] : others) {
+      if (!listed_.contains(pid)) add("-", pid, content);
+    }
+  }
+  Columns const& columns() const { return columns_; }
+
+ private:
+  PacketCounts const& counts_;
+  Columns columns_{{"program", "PID", "content", "languages", "CA systems", "packets", "share"}};
+  std::set<int> listed_;
+};
+
 }  // namespace
 
 void ProgramsCommand::choose_tags(sivane::ParseOptions& options) const {
@@ -96,94 +155,25 @@ void ProgramsCommand::choose_tags(sivane::ParseOptions& options) const {
 
 void ProgramsCommand::show(Section const& section) {
   constexpr int last_of_programs = 0x02, actual_stream = 0x42;
-  if (section.table_id() > last_of_programs && section.table_id() != actual_stream) return;
-  auto const table = table_of(section);
-  if (!table) return;
-  if (auto const* const pat = current_as<sivane::Pat>(*table)) take(*pat);
-  if (auto const* const cat = current_as<sivane::Cat>(*table)) take(*cat);
-  if (auto const* const pmt = current_as<sivane::Pmt>(*table)) take(*pmt);
-  services_.take(*table, texts_);
-}
-
-void ProgramsCommand::take(sivane::Pat const& pat) {
-  for (auto const& program : pat.program_infos) {
-    if (program.program_number != 0) program_map_pids_[program.program_number] = program.program_map_pid;
+  if (section.table_id() <= last_of_programs || section.table_id() == actual_stream) {
+    CatalogueCommand::show(section);
   }
 }
 
-void ProgramsCommand::take(sivane::Cat const& cat) {
-  for (auto const& descriptor : cat.get_CA_descriptors()) add_ca(common_, descriptor, "EMM");
-}
-
-void ProgramsCommand::add_ca(Pids& pids, sivane::DescriptorCa const& descriptor, char const* what) {
-  Content& content = pids[descriptor.pid];
-  if (content.what.empty()) content.what = what;
-  content.ca_systems.insert(descriptor.sys_id);
-}
-
-void ProgramsCommand::take(sivane::Pmt const& pmt) {
-  Pids pids;
-  for (auto const& descriptor : pmt.get_CA_descriptors()) add_ca(pids, descriptor, "ECM");
-  for (auto const& stream : pmt.stream_infos) take_stream(stream, pids);
-  if (pmt.pcr_pid != null_pid) {
-    std::string& what = pids[pmt.pcr_pid].what;
-    what += what.empty() ? "PCR" : ", PCR";
+bool ProgramsCommand::print(Catalogue const& catalogue, std::ostream& out) {
+  Rows rows(counts_);
+  for (auto const& [key, program] : catalogue.programs()) {
+    if (!program.map_pid) continue;
+    std::string const number = std::to_string(key.number);
+    rows.add(number, *program.map_pid, {map_content(catalogue, key.number), {}, {}});
+    if (!program.is_mapped) continue;
+    for (auto const& [pid, content] : pids_of(program)) rows.add(number, pid, content);
   }
-  programs_[pmt.context_id] = pids;
-}
-
-void ProgramsCommand::take_stream(sivane::PmtStreamInfo const& stream, Pids& pids) {
-  Content& content = pids[stream.elementary_pid];
-  content.what = stream_type_text(stream);
-  content.languages = languages_of(stream);
-  for (auto const& descriptor : stream.get_CA_descriptors()) {
-    content.ca_systems.insert(descriptor.sys_id);
-    add_ca(pids, descriptor, "ECM");
-  }
-}
-
-/// A service has the number of its program.
-std::string ProgramsCommand::map_content(int number) const {
-  for (auto const& [id, service] : services_.all()) {
-    if (id.service == number && !service.name.empty()) return "PMT of " + service.name;
-  }
-  return "PMT";
-}
-
-void ProgramsCommand::add_row(Columns& columns, std::string const& program, int pid,
-                              Content const& content) const {
-  std::string packets = "-", share = "-";
-  if (counts_.total > 0) {
-    auto const found = counts_.by_pid.find(pid);
-    unsigned long long const count = found == counts_.by_pid.end() ? 0 : found->second;
-    packets = grouped(static_cast<long long>(count));
-    share = share_text(count, counts_.total);
-  }
-  columns.add({program, c_hexadecimal(pid, 2), content.what, joined(content.languages),
-               ca_systems(content.ca_systems), packets, share});
-}
-
-void ProgramsCommand::finish() {
-  Columns columns({"program", "PID", "content", "languages", "CA systems", "packets", "share"});
-  std::set<int> listed;
-  for (auto const& [number, map_pid] : program_map_pids_) {
-    add_row(columns, std::to_string(number), map_pid, {map_content(number), {}, {}});
-    listed.insert(map_pid);
-    for (auto const& [pid, content] : programs_[number]) {
-      add_row(columns, std::to_string(number), pid, content);
-      listed.insert(pid);
-    }
-  }
-  for (auto const& [pid, count] : counts_.by_pid)
-    common_.try_emplace(pid, Content{usual_content(pid), {}, {}});
-  for (auto const& [pid, content] : common_) {
-    if (!listed.contains(pid)) add_row(columns, "-", pid, content);
-  }
-  if (columns.empty()) {
-    note("no program is described");
-  } else {
-    columns.print(out_);
-  }
+  Pids others;
+  add_access(others, catalogue.access(), "EMM");
+  rows.add_others(std::move(others));
+  if (!rows.columns().empty()) rows.columns().print(out);
+  return !rows.columns().empty();
 }
 
 }  // namespace inspect

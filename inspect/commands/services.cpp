@@ -7,13 +7,14 @@
 #include <ostream>
 #include <string_view>
 
-#include "console.h"
 #include "text/hexadecimal.h"
 #include "text/names.h"
 #include "text/service_types.h"
 #include "text/terminal.h"
 
 namespace inspect {
+
+using sivane::catalogue::Service;
 
 namespace {
 
@@ -28,8 +29,8 @@ std::string type_text(int type) {
   return text.empty() ? c_hexadecimal(type, 1) : std::string(text);
 }
 
-std::string access_text(Service const& service, std::set<int> const& systems) {
-  std::string const names = ca_systems(systems);
+std::string access_text(Service const& service, std::vector<int> const& systems) {
+  std::string const names = ca_systems({systems.begin(), systems.end()});
   if (!service.is_scrambled) return names.empty() ? "free" : "free (" + names + ")";
   return names.empty() ? "scrambled" : "scrambled (" + names + ")";
 }
@@ -40,23 +41,16 @@ void ServicesCommand::choose_tags(sivane::ParseOptions& options) const {
   options.build_only({0x48, 0x53, 0x09});  // service, CA identifier, CA
 }
 
-void ServicesCommand::show(Section const& section) {
-  if (auto const table = table_of(section)) services_.take(*table, texts_);
-}
-
-void ServicesCommand::finish() {
+bool ServicesCommand::print(sivane::catalogue::Catalogue const& catalogue, std::ostream& out) {
   Columns columns({"network", "stream", "service", "name", "provider", "type", "status", "access"});
-  for (auto const& [id, service] : services_.all()) {
-    columns.add({numbered(sivane::get_original_network_id, id.original_network),
-                 std::to_string(id.transport_stream), std::to_string(id.service), service.name,
+  for (auto const& [key, service] : catalogue.services()) {
+    columns.add({numbered(sivane::get_original_network_id, key.original_network),
+                 std::to_string(key.transport_stream), std::to_string(key.service), service.name,
                  service.provider, type_text(service.type), running_text(service.running_status),
-                 access_text(service, services_.ca_systems_of(id))});
+                 access_text(service, catalogue.ca_systems(key))});
   }
-  if (columns.empty()) {
-    note("no service is described");
-  } else {
-    columns.print(out_);
-  }
+  if (!columns.empty()) columns.print(out);
+  return !columns.empty();
 }
 
 }  // namespace inspect

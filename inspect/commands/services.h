@@ -2,26 +2,19 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <ostream>
-
-#include "commands/command.h"
-#include "commands/service_list.h"
+#include "commands/catalogue_command.h"
 
 namespace inspect {
 
 /// Lists the services that the SDTs describe.
-class ServicesCommand final : public Command {
+class ServicesCommand final : public CatalogueCommand {
  public:
-  explicit ServicesCommand(Showing const& showing) : out_(showing.out), texts_(showing.charset) {}
-  void finish() override;
+  explicit ServicesCommand(Showing const& showing) : CatalogueCommand(showing) {}
 
  private:
-  void show(Section const& section) override;
   void choose_tags(sivane::ParseOptions& options) const override;
-
-  std::ostream& out_;
-  sivane::charset::Converter texts_;
-  ServiceList services_;
+  bool print(sivane::catalogue::Catalogue const& catalogue, std::ostream& out) override;
+  char const* nothing() const override { return "no service is described"; }
 };
 
 }  // namespace inspect

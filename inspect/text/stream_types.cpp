@@ -2,14 +2,14 @@
 // Copyright (c) 2026 the sivane authors
 #include "text/stream_types.h"
 
-#include <sivane/sivane.h>
-
 #include <algorithm>
 #include <iterator>
 
 #include "text/hexadecimal.h"
 
 namespace inspect {
+
+using sivane::catalogue::ElementaryStream;
 
 namespace {
 
@@ -73,30 +73,35 @@ char const* text_of(int stream_type) {
   return row == std::end(rows) ? nullptr : row->text;
 }
 
-bool has_general(sivane::PmtStreamInfo const& stream, int tag) {
-  return std::ranges::any_of(stream.get_general_descriptors(),
-                             [tag](auto const& descriptor) { return descriptor.tag == tag; });
-}
-
 /// What the descriptors tell of private data; null where they tell nothing.
-char const* text_of_private(sivane::PmtStreamInfo const& stream) {
-  constexpr int enhanced_ac3 = 0x7A, dts = 0x7B, aac = 0x7C;
-  if (!stream.get_AC3_descriptors().empty()) return "AC-3 audio";
-  if (has_general(stream, enhanced_ac3)) return "enhanced AC-3 audio";
-  if (has_general(stream, dts)) return "DTS audio";
-  if (has_general(stream, aac)) return "AAC audio";
-  if (!stream.get_subtitling_descriptors().empty()) return "DVB subtitles";
-  if (!stream.get_teletext_descriptors().empty()) return "teletext";
-  if (!stream.get_VBI_teletext_descriptors().empty() || !stream.get_VBI_data_descriptors().empty())
-    return "VBI data";
+char const* text_of_private(ElementaryStream::Coding coding) {
+  using Coding = ElementaryStream::Coding;
+  switch (coding) {
+    case Coding::ac3:
+      return "AC-3 audio";
+    case Coding::enhanced_ac3:
+      return "enhanced AC-3 audio";
+    case Coding::dts:
+      return "DTS audio";
+    case Coding::aac:
+      return "AAC audio";
+    case Coding::subtitles:
+      return "DVB subtitles";
+    case Coding::teletext:
+      return "teletext";
+    case Coding::vbi:
+      return "VBI data";
+    case Coding::untold:
+      break;
+  }
   return nullptr;
 }
 
 }  // namespace
 
-std::string stream_type_text(sivane::PmtStreamInfo const& stream) {
+std::string stream_type_text(ElementaryStream const& stream) {
   bool const is_private = stream.stream_type == private_pes;
-  if (char const* const text = is_private ? text_of_private(stream) : nullptr) return text;
+  if (char const* const text = is_private ? text_of_private(stream.coding) : nullptr) return text;
   char const* const text = text_of(stream.stream_type);
   return text != nullptr ? text : "stream type " + c_hexadecimal(stream.stream_type, 1);
 }

@@ -2,16 +2,14 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <string>
+#include <sivane/catalogue/program.h>
 
-namespace sivane {
-class PmtStreamInfo;
-}
+#include <string>
 
 namespace inspect {
 
 /// What an elementary stream carries: by its stream_type (ISO/IEC 13818-1, table 2-34), and where that leaves
 /// it open by its descriptors (ETSI EN 300 468, 6.2).
-std::string stream_type_text(sivane::PmtStreamInfo const& stream);
+std::string stream_type_text(sivane::catalogue::ElementaryStream const& stream);
 
 }  // namespace inspect

@@ -7,7 +7,7 @@
 
 namespace sivane::catalogue {
 
-Catalogue::Catalogue(Options options) : state_(std::make_unique<State>(options)) {}
+Catalogue::Catalogue(Options const& options) : state_(std::make_unique<State>(options)) {}
 Catalogue::Catalogue(Catalogue&&) noexcept = default;
 Catalogue& Catalogue::operator=(Catalogue&&) noexcept = default;
 Catalogue::~Catalogue() = default;

@@ -60,7 +60,7 @@ struct Options {
 class SIVANE_API Catalogue {
  public:
   /// Throws `std::invalid_argument` for a table of characters that is not known.
-  explicit Catalogue(Options options = {});
+  explicit Catalogue(Options const& options = {});
   Catalogue(Catalogue&&) noexcept;
   Catalogue& operator=(Catalogue&&) noexcept;
   ~Catalogue();

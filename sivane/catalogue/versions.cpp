@@ -90,7 +90,7 @@ bool SubTable::is_whole() const {
 
 Names SubTable::finish() {
   is_whole_ = true;
-  Names const gone = std::exchange(stale_, {});
+  Names gone = std::exchange(stale_, {});
   if (!gone.empty()) names_ = without(names_, gone);
   return gone;
 }

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "text/deliveries.h"
+
+#include <sivane/sivane.h>
+
+#include <iomanip>
+#include <ostream>
+#include <sstream>
+
+namespace inspect {
+
+namespace {
+
+using sivane::catalogue::Delivery;
+
+constexpr int digits_of_frequencies = 9;  // as many as a descriptor has
+constexpr double mega = 1e6, giga = 1e9;
+
+void write_satellite(std::ostream& text, Delivery const& delivery) {
+  sivane::DescriptorSatelliteDeliverySystem codes;
+  codes.polarization = delivery.polarization;
+  text << "satellite " << delivery.orbital_position << (delivery.is_east ? " E, " : " W, ")
+       << delivery.frequency.value_or(0) / giga << " GHz " << codes.get_polarization_text() << ", "
+       << delivery.symbol_rate / mega << " Msymbol/s, FEC "
+       << sivane::DescriptorSatelliteDeliverySystem::get_FEC_inner_text(delivery.inner_code);
+}
+
+void write_cable(std::ostream& text, Delivery const& delivery) {
+  text << "cable " << delivery.frequency.value_or(0) / mega << " MHz, " << delivery.symbol_rate / mega
+       << " Msymbol/s";
+  constexpr int last_modulation = 5;
+  int const code = delivery.modulation;
+  if (code >= 1 && code <= last_modulation) text << ", " << (8 << code) << "-QAM";
+}
+
+void write_terrestrial(std::ostream& text, Delivery const& delivery) {
+  if (delivery.frequency) {
+    text << "terrestrial " << *delivery.frequency / mega << " MHz";
+  } else {
+    text << "terrestrial, frequency undefined";
+  }
+  if (delivery.bandwidth > 0) text << ", " << delivery.bandwidth / mega << " MHz wide";
+}
+
+}  // namespace
+
+std::string delivery_text(Delivery const& delivery) {
+  std::ostringstream text;
+  text.exceptions(std::ios::badbit);
+  text << std::setprecision(digits_of_frequencies);
+  switch (delivery.system) {
+    case Delivery::System::satellite:
+      write_satellite(text, delivery);
+      break;
+    case Delivery::System::cable:
+      write_cable(text, delivery);
+      break;
+    case Delivery::System::terrestrial:
+      write_terrestrial(text, delivery);
+      break;
+  }
+  return text.str();
+}
+
+}  // namespace inspect

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/catalogue/network.h>
+
+#include <string>
+
+namespace inspect {
+
+/// "cable 346 MHz, 6.9 Msymbol/s, 64-QAM".
+std::string delivery_text(sivane::catalogue::Delivery const& delivery);
+
+}  // namespace inspect
