@@ -30,6 +30,7 @@
 
 // From sections to tables.
 #include <sivane/tables/ait.h>
+#include <sivane/tables/any_table.h>
 #include <sivane/tables/bat.h>
 #include <sivane/tables/cat.h>
 #include <sivane/tables/dsm_cc.h>

@@ -27,7 +27,7 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
     refuse(section, "no class for table id");
     return nullptr;
   }
-  std::unique_ptr<Table> table = table_class->make();
+  std::unique_ptr<Table> table = std::make_unique<Table>(sivane::make_table(table_class->name));
   sivane::ParseOptions options;
   options.tolerant = parsing_ == Parsing::tolerant;
   choose_tags(options);

@@ -2,47 +2,78 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
-#include <sivane/foundation/parse_options.h>
+#include <sivane/tables/any_table.h>
 
 #include <iosfwd>
 #include <span>
+#include <string_view>
+#include <type_traits>
+#include <utility>
 
 namespace inspect {
 
-/// An object of any table class: long and short frames offer the same operations without a common base.
+/// A table of any class, with the operations that all of them have.
 class Table {
  public:
-  virtual ~Table() = default;
+  explicit Table(sivane::AnyTable table) : table_(std::move(table)) {}
 
   /// Throws `sivane::error`, as does `load`.
-  virtual void parse(std::span<unsigned char const> section, sivane::ParseOptions& options) = 0;
-  /// `node` is an `IXMLDOMNode*`.
-  virtual void load(void* node) = 0;
-  virtual void dump(std::ostream& out) const = 0;
-  virtual void save(void* document, void* element) const = 0;
-};
-
-template <class Class>
-class TableOf final : public Table {
- public:
-  void parse(std::span<unsigned char const> section, sivane::ParseOptions& options) override {
-    table_.Parse(section.data(), section.size(), options);
+  void parse(std::span<unsigned char const> section, sivane::ParseOptions& options) {
+    each([&](auto& table) { table.Parse(section.data(), section.size(), options); });
   }
-  void load(void* node) override { table_.Parse(node); }
-  void dump(std::ostream& out) const override { table_.dump_state(out); }
+  /// `node` is an `IXMLDOMNode*`.
+  void load(void* node) {
+    each([&](auto& table) { table.Parse(node); });
+  }
+  void dump(std::ostream& out) const {
+    each([&](auto const& table) { table.dump_state(out); });
+  }
   // A refusal leaves what was saved before it, which is all there is of a `DsmCC`.
-  void save(void* document, void* element) const override { table_.SaveSection(document, element); }
-  Class const& object() const { return table_; }
+  void save(void* document, void* element) const {
+    each([&](auto const& table) { table.SaveSection(document, element); });
+  }
+  void visit(sivane::FieldVisitor& visitor) const {
+    each([&](auto const& table) { table.visit(visitor); });
+  }
+  int table_id() const {
+    int id = -1;
+    each([&id](auto const& table) { id = table.table_id; });
+    return id;
+  }
+  std::string_view class_name() const { return sivane::class_name(table_); }
+
+  /// The object itself; null where it is of another class.
+  template <class Class>
+  Class const* as() const {
+    return std::get_if<Class>(&table_);
+  }
 
  private:
-  Class table_;
+  template <class Self, class Act>
+  static void act(Self& self, Act act) {
+    std::visit(
+        [&act](auto& table) {
+          if constexpr (!std::is_same_v<std::monostate, std::remove_cvref_t<decltype(table)>>) act(table);
+        },
+        self);
+  }
+  template <class Act>
+  void each(Act a) {
+    act(table_, a);
+  }
+  template <class Act>
+  void each(Act a) const {
+    act(table_, a);
+  }
+
+  sivane::AnyTable table_;
 };
 
 /// The object itself; null where it is of another class, or sent ahead of the time from which it applies.
 template <class Class>
 Class const* current_as(Table const& table) {
-  auto const* const same = dynamic_cast<TableOf<Class> const*>(&table);
-  return same != nullptr && same->object().current_next_indicator == 1 ? &same->object() : nullptr;
+  Class const* const same = table.as<Class>();
+  return same != nullptr && same->current_next_indicator == 1 ? same : nullptr;
 }
 
 }  // namespace inspect

@@ -13,11 +13,6 @@ namespace inspect {
 
 namespace {
 
-template <class Class>
-std::unique_ptr<Table> make() {
-  return std::make_unique<TableOf<Class>>();
-}
-
 std::optional<int> usual_pid(std::string_view name) {
   static std::map<std::string_view, int> const pids = {{"Pat", 0x0000}, {"Cat", 0x0001}, {"Nit", 0x0010},
                                                        {"Sdt", 0x0011}, {"Bat", 0x0011}, {"Eit", 0x0012},
@@ -26,20 +21,19 @@ std::optional<int> usual_pid(std::string_view name) {
   return found == pids.end() ? std::optional<int>() : found->second;
 }
 
-TableClass row(std::string_view name, std::initializer_list<sivane::TableIds> ids,
-               std::unique_ptr<Table> (*make)()) {
+TableClass row(std::string_view name, std::initializer_list<sivane::TableIds> ids) {
   std::vector<int> table_ids;
   for (sivane::TableIds const& of : ids) {
     for (int id = of.first; id <= of.last; ++id) table_ids.push_back(id);
   }
-  return {name, std::move(table_ids), usual_pid(name), make};
+  return {name, std::move(table_ids), usual_pid(name)};
 }
 
 }  // namespace
 
 std::span<TableClass const> table_classes() {
   static std::vector<TableClass> const rows = {
-#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) row(#Class, {__VA_ARGS__}, make<sivane::Class>),
+#define SIVANE_TABLE_ROW(Class, Frame, other_text, ...) row(#Class, {__VA_ARGS__}),
 #include <sivane/tables/table_rows.inc>
   };
   return rows;

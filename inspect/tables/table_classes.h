@@ -18,7 +18,6 @@ struct TableClass {
   std::string_view name;
   std::vector<int> table_ids;    ///< those that it reads
   std::optional<int> usual_pid;  ///< where they are found in every stream; none: where other tables say
-  std::unique_ptr<Table> (*make)();
 };
 
 std::span<TableClass const> table_classes();

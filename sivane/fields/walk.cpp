@@ -30,7 +30,10 @@ class TellValue {
   void operator()(double const* v) const { visitor_.real(field_, *v); }
   void operator()(std::string const* v) const { visitor_.string(field_, *v); }
   void operator()(BroadcastString v) const { visitor_.text(field_, *v.string); }
-  void operator()(Text const* v) const { visitor_.text(field_, *v); }
+  void operator()(Text const* v) const {
+    if (v->selector() < 0) return visitor_.text(field_, *v);
+    visitor_.text(field_, static_cast<char>(v->selector()) + *v);
+  }
   void operator()(std::vector<unsigned char> const* v) const { visitor_.bytes(field_, v->data(), v->size()); }
   void operator()(unsigned char const (*v)[16]) const { visitor_.bytes(field_, *v, sizeof *v); }
   void operator()(char const (*v)[4]) const { visitor_.code(field_, std::string_view(*v, 3)); }
