@@ -27,6 +27,8 @@ void add_options_of_streams(CLI::App& command, Arguments& arguments) {
   command.add_option("--seconds", arguments.seconds, "End the run after so many seconds")->type_name("N");
   command.add_option("--packets", arguments.packets, "End the run after so many packets")->type_name("N");
   command.add_flag("--follow", arguments.follow, "Wait for more at the end of a file");
+  command.add_flag("--changes", arguments.changes,
+                   "Leave out sections that were shown before and are the same");
   command.add_flag("--tolerant", arguments.tolerant,
                    "A descriptor that fails costs nothing else; the lists' way without being asked");
   command.add_flag("--strict", arguments.strict,

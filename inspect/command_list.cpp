@@ -4,6 +4,7 @@
 
 #include "commands/dump.h"
 #include "commands/events.h"
+#include "commands/json.h"
 #include "commands/networks.h"
 #include "commands/programs.h"
 #include "commands/sections.h"
@@ -28,6 +29,7 @@ constexpr Parsing strict = Parsing::strict, tolerant = Parsing::tolerant;
 constexpr CommandRow rows[] = {
     {"dump", "Print every section as text", any, strict, make<DumpCommand>},
     {"xml", "Save all sections as one XML document", any, strict, make<XmlCommand>},
+    {"json", "Print every section as a line of JSON", any, strict, make<JsonCommand>},
     {"sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", bytes, strict,
      make<SectionsCommand>},
     {"services", "List the services with their names, types and states", bytes, tolerant,

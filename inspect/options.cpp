@@ -103,11 +103,14 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.seconds = arguments.seconds;
   options.packets = arguments.packets;
   options.follow = arguments.follow;
+  options.changes = arguments.changes;
   options.quiet = arguments.quiet;
   options.source = arguments.source;
   options.charset = charset_of(arguments);
   options.parsing = parsing_of(row, arguments);
   refuse_what_has_no_packets(options);
+  if (options.changes && row.prints_at_end())
+    throw CLI::ValidationError("--changes", std::string(row.name) + " prints each thing once anyway");
   return options;
 }
 

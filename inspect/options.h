@@ -21,6 +21,7 @@ struct Arguments {
   std::optional<long long> packets;
   bool follow = false;
   bool quiet = false;
+  bool changes = false;
   bool tolerant = false;
   bool strict = false;
   std::string charset;
@@ -37,6 +38,7 @@ struct Options {
   std::optional<double> seconds;
   std::optional<long long> packets;
   bool follow = false;
+  bool changes = false;
   bool quiet = false;
   sivane::charset::Options charset;
   std::string source;

@@ -77,6 +77,7 @@ ExitStatus run(Options const& options) {
   RunEnd end(options.seconds, [&out] { out.flush(); });
   auto const command = options.command->make({out, buffer.is_terminal(), options.charset});
   command->set_parsing(options.parsing);
+  if (options.changes) command->show_changes_alone();
   ExitStatus const status = read_all(options, *command, end);
   out.flush();
   count_failures(*command);

@@ -231,6 +231,23 @@ class PresentEvents final : public sivane::DemuxPush {
   }
 };
 
+// Every field of any table
+
+class Numbers : public sivane::FieldVisitor {
+ public:
+  void number(sivane::Field const& field, std::int64_t value) override {
+    std::cout << field.name << ": " << value << " in " << field.bits << " bits\n";
+  }
+};
+
+void print_numbers(std::vector<unsigned char> const& section) {
+  sivane::AnyTable const table = sivane::parse_table(section.data(), section.size());
+  Numbers numbers;
+  sivane::visit_table(table, numbers);
+  bool const same = table == sivane::parse_table(section.data(), section.size());
+  std::cout << (same ? "it has not changed\n" : "it has changed\n");
+}
+
 // Documents
 
 std::string as_document(sivane::Pat const& pat) {
@@ -302,6 +319,8 @@ int main(int argc, char** argv) {
   bool const survives =
       from_document(as_document(pat)).program_infos.size() == 2 && read_programs(programs).size() == 2;
 
+  print_numbers({0x72, 0x70, 0x00});                                                        // of no class
+  print_numbers({0x71, 0x70, 0x09, 0x00, 0x01, 0x00, 0x02, 0x00, 0x03, 0x00, 0x04, 0x04});  // an Rst
   sivane::init();
   unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
   print_scrambling(sivane::DescriptorCa(ca));

@@ -10,8 +10,9 @@
 namespace inspect {
 
 bool Command::take(Section const& section) {
-  ++number_;
   has_right_crc_ = true;
+  if (seen_ && !section.bytes.empty() && !seen_->is_new(section.pid, section.bytes.data())) return true;
+  ++number_;
   show(section);
   return has_right_crc_;
 }
@@ -41,13 +42,13 @@ std::unique_ptr<Table> Command::table_of(Section const& section) {
     fail(section, {table_class->name, failure.code, failure.what(), failure.offset});
     return nullptr;
   }
-  tell_problems(section, table_class->name, options);
+  latest_problems_ = std::move(options.problems);
+  tell_problems(section, table_class->name);
   return table;
 }
 
-void Command::tell_problems(Section const& section, std::string_view class_name,
-                            sivane::ParseOptions const& options) {
-  for (sivane::ParseProblem const& problem : options.problems) {
+void Command::tell_problems(Section const& section, std::string_view class_name) {
+  for (sivane::ParseProblem const& problem : latest_problems_) {
     ++problems_;
     report("section " + grouped(number_) + ": " + problem_text(section, class_name, problem));
   }
@@ -56,7 +57,7 @@ void Command::tell_problems(Section const& section, std::string_view class_name,
 void Command::fail(Section const& section, Failure const& failure) {
   ++failures_;
   if (failure.what == "crc error") has_right_crc_ = false;
-  show_failure(failure);
+  show_failure(section, failure);
   report("section " + grouped(number_) + ": " + failure_text(section, failure));
 }
 

@@ -3,11 +3,14 @@
 #pragma once
 
 #include <sivane/charset/charset.h>
+#include <sivane/tables/seen_sections.h>
 
 #include <iosfwd>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "input/packet_counts.h"
 #include "input/section.h"
@@ -44,6 +47,8 @@ class Command {
   /// Takes the place of a section that the input could not make out.
   void take_broken(char const* reason);
   void set_parsing(Parsing parsing) { parsing_ = parsing; }
+  /// Leaves out the sections that were shown before and are the same.
+  void show_changes_alone() { seen_.emplace(); }
   /// Called once after the last section.
   virtual void finish() {}
 
@@ -57,17 +62,18 @@ class Command {
 
  protected:
   virtual void show(Section const& section) = 0;
-  virtual void show_failure(Failure const&) {}
+  virtual void show_failure(Section const&, Failure const&) {}
   /// Leaves those tags in the options whose descriptors are shown.
   virtual void choose_tags(sivane::ParseOptions&) const {}
 
   /// A fresh object of the section's class, filled; null, and the failure shown, where that cannot be.
   std::unique_ptr<Table> table_of(Section const& section);
+  /// What was passed over in the table made last.
+  std::vector<sivane::ParseProblem> const& latest_problems() const { return latest_problems_; }
 
  private:
   void fail(Section const& section, Failure const& failure);
-  void tell_problems(Section const& section, std::string_view class_name,
-                     sivane::ParseOptions const& options);
+  void tell_problems(Section const& section, std::string_view class_name);
   /// A failure of the host itself.
   void refuse(Section const& section, char const* reason);
 
@@ -75,7 +81,9 @@ class Command {
   int failures_ = 0;
   int problems_ = 0;
   Parsing parsing_ = Parsing::strict;
-  bool has_right_crc_ = true;  // of the latest section, as far as it was looked at
+  std::vector<sivane::ParseProblem> latest_problems_;
+  std::optional<sivane::SeenSections> seen_;  // where only changes are shown
+  bool has_right_crc_ = true;                 // of the latest section, as far as it was looked at
 };
 
 }  // namespace inspect

@@ -18,7 +18,7 @@ void DumpCommand::show(Section const& section) {
   out_ << (is_terminal_ ? visible(text.str()) : text.str());
 }
 
-void DumpCommand::show_failure(Failure const& failure) {
+void DumpCommand::show_failure(Section const&, Failure const& failure) {
   show_title(failure.class_name);
   out_ << "error " << failure.code << ' ' << failure.what << '\n';
 }

@@ -15,7 +15,7 @@ class DumpCommand final : public Command {
 
  private:
   void show(Section const& section) override;
-  void show_failure(Failure const& failure) override;
+  void show_failure(Section const& section, Failure const& failure) override;
   void show_title(std::string_view class_name);
 
   std::ostream& out_;

@@ -13,7 +13,7 @@ void XmlCommand::show(Section const& section) {
                 [&table](auto* document, auto* element) { table->save(document, element); });
 }
 
-void XmlCommand::show_failure(Failure const& failure) {
+void XmlCommand::show_failure(Section const&, Failure const& failure) {
   writer_.write("error", [this, &failure](auto* document, auto* element) {
     sivane::AddAttribute(document, element, u"number", number());
     sivane::AddAttribute(document, element, u"class", std::string(failure.class_name));

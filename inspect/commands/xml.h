@@ -16,7 +16,7 @@ class XmlCommand final : public Command {
 
  private:
   void show(Section const& section) override;
-  void show_failure(Failure const& failure) override;
+  void show_failure(Section const& section, Failure const& failure) override;
 
   sivane::dom::ElementWriter writer_;
 };

@@ -4,8 +4,10 @@
 // The visit of an object: its fields as a visitor is told them.
 #include <sivane/descriptors/descriptor_storage.h>
 #include <sivane/fields/field_list.h>
+#include <sivane/tables/any_table.h>
 
 #include <string_view>
+#include <type_traits>
 
 namespace sivane {
 
@@ -121,6 +123,14 @@ void visit_list(DescriptorGroups const& groups, std::string_view const* names, F
 void visit_fields(AnyObject object, FieldVisitor& visitor) {
   Walk walk(visitor);
   object.fields(object.object, walk);
+}
+
+void visit_table(AnyTable const& table, FieldVisitor& visitor) {
+  std::visit(
+      [&visitor](auto const& any) {
+        if constexpr (!std::is_same_v<decltype(any), std::monostate const&>) any.visit(visitor);
+      },
+      table);
 }
 
 void DescriptorSet::visit_descriptors(FieldVisitor& visitor) const {

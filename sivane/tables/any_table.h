@@ -43,4 +43,7 @@ SIVANE_API AnyTable parse_table(unsigned char const* section, std::size_t availa
 /// The same with a choice of what is built.
 SIVANE_API AnyTable parse_table(unsigned char const* section, std::size_t available, ParseOptions& options);
 
+/// Tells the visitor what the table holds; nothing of none.
+SIVANE_API void visit_table(AnyTable const& table, FieldVisitor& visitor);
+
 }  // namespace sivane

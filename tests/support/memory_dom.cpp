@@ -233,6 +233,10 @@ std::string written(IXMLDOMNode* node) {
 std::string name_of(IXMLDOMNode* node) { return printable(node_of(node).name); }
 std::size_t child_count(IXMLDOMNode* node) { return node_of(node).children.size(); }
 std::size_t attribute_count(IXMLDOMNode* node) { return node_of(node).attributes.size(); }
+std::pair<std::string, std::string> attribute_at(IXMLDOMNode* node, std::size_t index) {
+  Node const& attribute = node_of(node_of(node).attributes.at(index).get());
+  return {printable(attribute.name), printable(attribute.value.text())};
+}
 CComPtr<IXMLDOMNode> child_at(IXMLDOMNode* node, std::size_t index) {
   return node_of(node).children.at(index);
 }

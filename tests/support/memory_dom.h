@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 
 namespace sivane::testing {
 
@@ -43,6 +44,8 @@ std::string written(IXMLDOMNode* node);
 std::string name_of(IXMLDOMNode* node);
 std::size_t child_count(IXMLDOMNode* node);
 std::size_t attribute_count(IXMLDOMNode* node);
+/// Name and value, as `written` has them.
+std::pair<std::string, std::string> attribute_at(IXMLDOMNode* node, std::size_t index);
 CComPtr<IXMLDOMNode> child_at(IXMLDOMNode* node, std::size_t index);
 void take_child(IXMLDOMNode* node, std::size_t index);
 /// The name of what was taken.

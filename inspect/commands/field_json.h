@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <sivane/charset/charset.h>
+#include <sivane/fields/field_visitor.h>
+
+#include <vector>
+
+#include "text/json.h"
+
+namespace inspect {
+
+/// Writes what a visit tells as the members of the object that is open in a `JsonWriter`: numbers as
+/// documents have them, texts in UTF-8, bytes in hexadecimal, dates and durations by ISO 8601.
+class FieldJson final : public sivane::FieldVisitor {
+ public:
+  FieldJson(JsonWriter& json, sivane::charset::Converter& texts) : json_(json), texts_(texts) {}
+
+  void number(sivane::Field const& field, std::int64_t value) override;
+  void real(sivane::Field const& field, double value) override;
+  void flag(sivane::Field const& field, bool value) override;
+  void text(sivane::Field const& field, std::string_view bytes) override;
+  void string(sivane::Field const& field, std::string_view value) override;
+  void code(sivane::Field const& field, std::string_view letters) override;
+  void bytes(sivane::Field const& field, unsigned char const* data, std::size_t size) override;
+  void date(sivane::Field const& field, sivane::DateTime const& value) override;
+  void duration(sivane::Field const& field, sivane::Duration const& value) override;
+  void begin_list(sivane::Field const& field, std::size_t size) override;
+  void end_list() override;
+  void begin_record(sivane::Field const& field) override;
+  void end_record() override;
+  void begin_descriptor(std::string_view element, sivane::DescriptorBase const& descriptor) override;
+  void end_descriptor() override;
+
+ private:
+  /// The name, where the value is a member and no item of a list.
+  void name(sivane::Field const& field);
+
+  JsonWriter& json_;
+  sivane::charset::Converter& texts_;
+};
+
+}  // namespace inspect
