@@ -19,8 +19,12 @@ class SIVANE_API AitDescriptorSet {
  public:
   /// As `DescriptorSet::ParseDescriptor`.
   void ParseDescriptorAit(DescriptorBytes descriptor);
+  /// The same, and remembers the private_data_specifier in force.
+  void ParseDescriptorAit(DescriptorBytes descriptor, unsigned int private_data_specifier);
   /// As `DescriptorSet::file_as_bytes`.
   void file_as_bytes(DescriptorBytes descriptor);
+  /// The same, and remembers the private_data_specifier in force.
+  void file_as_bytes(DescriptorBytes descriptor, unsigned int private_data_specifier);
   /// As `DescriptorSet::parse_descriptors`.
   void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);
   /// Empties the vector of `get_general_descriptors`.

@@ -104,6 +104,10 @@ class SIVANE_API DescriptorGeneral final : public DescriptorBase {
   DescriptorGeneral(int descriptor_tag, unsigned char const* bytes, int descriptor_length);
 
   std::vector<unsigned char> data;  ///< the body
+  /// 32 bits: whose private tags were in force in the loop where the descriptor was found; 0 for nobody's, or
+  /// where none was. No field of the descriptor: neither dumps nor documents have it, and it does not count
+  /// where descriptors are compared.
+  unsigned int private_data_specifier = 0;
 };
 
 }  // namespace sivane

@@ -61,7 +61,23 @@ void DescriptorStorage::parse(DescriptorGroups& groups, DescriptorRow const* row
     int const row = row_of_tag[static_cast<std::size_t>(first.tag())];
     auto* const parse_into = rows[row].operations->parse;
     void* const filed = vector(groups, rows, row, run);
+    std::size_t const count = run;
     for (parse_into(filed, first); run > 1; --run) parse_into(filed, loop.next());
+    if (rows[row].is_kept_as_bytes()) remember(filed, count, loop.private_data_specifier());
+  }
+}
+
+void DescriptorStorage::file(DescriptorGroups& groups, DescriptorRow const* rows, int row,
+                             DescriptorBytes descriptor, unsigned int private_data_specifier) {
+  void* const filed = vector(groups, rows, row);
+  rows[row].operations->parse(filed, descriptor);
+  if (rows[row].is_kept_as_bytes()) remember(filed, 1, private_data_specifier);
+}
+
+void DescriptorStorage::remember(void* filed, std::size_t count, unsigned int private_data_specifier) {
+  std::vector<DescriptorGeneral>& descriptors = VectorOf<DescriptorGeneral>::of(filed);
+  for (std::size_t i = descriptors.size() - count; i < descriptors.size(); ++i) {
+    descriptors[i].private_data_specifier = private_data_specifier;
   }
 }
 

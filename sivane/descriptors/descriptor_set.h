@@ -28,9 +28,15 @@ class SIVANE_API DescriptorSet {
   /// Builds the class of the descriptor's tag and appends it to its vector. A descriptor that throws is not
   /// filed; those before it stay.
   void ParseDescriptor(DescriptorBytes descriptor);
+  /// The same within a loop of the caller's: one that has no class remembers the private_data_specifier in
+  /// force
+  /// (`DescriptorLoop::private_data_specifier`).
+  void ParseDescriptor(DescriptorBytes descriptor, unsigned int private_data_specifier);
   /// Appends it with its bytes, whatever its tag: to the user private descriptors from 0x80 on, to the
   /// general ones below.
   void file_as_bytes(DescriptorBytes descriptor);
+  /// The same, and remembers the private_data_specifier in force.
+  void file_as_bytes(DescriptorBytes descriptor, unsigned int private_data_specifier);
   /// Files the descriptors that start within the next `size` bytes of `reader`, and steps over those bytes.
   /// Throws `failure` where one would leave the section, or, if the loop's end is `exact`, the bytes.
   void parse_descriptors(Reader& reader, int size, Failure failure, LoopEnd end = LoopEnd::open);

@@ -60,6 +60,8 @@ struct VectorOf {
 struct DescriptorRow {
   enum Kind : int { user_private = -1, other = -2 };  // in place of a tag, for those that have no class
 
+  bool is_kept_as_bytes() const { return tag < 0; }
+
   int tag;
   VectorOperations const* operations;
 };
@@ -103,6 +105,10 @@ struct DescriptorStorage {
     return slot != nullptr ? VectorOf<Descriptor>::of(slot->vector()) : none;
   }
 
+  /// Files a descriptor. One that is kept as bytes remembers the specifier.
+  static void file(DescriptorGroups& groups, DescriptorRow const* rows, int row, DescriptorBytes descriptor,
+                   unsigned int private_data_specifier);
+
   /// Files the descriptors of a loop. Those of one tag that follow each other get their memory at once.
   static void parse(DescriptorGroups& groups, DescriptorRow const* rows, RowOfTag const& row_of_tag,
                     DescriptorLoop& loop);
@@ -130,6 +136,8 @@ struct DescriptorStorage {
     return nullptr;
   }
 
+  /// Tells the last `count` descriptors of a vector whose specifier was in force.
+  static void remember(void* filed, std::size_t count, unsigned int private_data_specifier);
   /// The slot of the lowest row above `row`.
   static Slot* next(DescriptorGroups const& groups, int row);
   static void* make(DescriptorGroups& groups, VectorOperations const& operations, int row,

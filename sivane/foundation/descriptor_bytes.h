@@ -72,8 +72,13 @@ class DescriptorLoop {
     last_ = next_;
     if (!fits(next_, limit_)) raise(failure_, offset());
     next_ += 2 + first_[next_ + 1];
-    return {first_ + last_, first_ + limit_, offset()};
+    DescriptorBytes const descriptor(first_ + last_, first_ + limit_, offset());
+    if (descriptor.tag() == specifier_tag) specifier_ = specifier_of(descriptor);
+    return descriptor;
   }
+  /// The private_data_specifier in force at the one that was taken last, 32 bits: whose private tags those
+  /// are that follow (ETSI EN 300 468, 6.2.31). 0 where none was given, or one that is too short.
+  unsigned int private_data_specifier() const { return specifier_; }
   /// Once there are no more: throws where the last one has run over the loop and may not.
   void close(LoopEnd end) const {
     if (end == LoopEnd::exact && next_ > size_) raise(failure_, offset());
@@ -104,6 +109,8 @@ class DescriptorLoop {
   }
 
  private:
+  static constexpr int specifier_tag = 0x5F;
+  static unsigned int specifier_of(DescriptorBytes descriptor);
   bool fits(int at, int end) const { return end - at >= 2 && end - at - 2 >= first_[at + 1]; }
   int offset() const { return begin_ < 0 ? -1 : begin_ + last_; }
 
@@ -114,6 +121,7 @@ class DescriptorLoop {
   int limit_;
   Failure failure_;
   int begin_;
+  unsigned int specifier_ = 0;
 };
 
 /// For a loop over them: going on to one that leaves the limit throws.

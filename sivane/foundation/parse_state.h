@@ -64,17 +64,28 @@ inline void fail_or_list(Reader const& reader, Failure failure, int distance) {
 }
 
 /// Takes the descriptors of a loop by `file`, those that fail by `file_as_bytes`, as the state of `reader`
-/// wants it. All else is as in `Reader::each_descriptor`.
+/// wants it; both are told the private_data_specifier in force too. All else is as in
+/// `Reader::each_descriptor`.
 template <class File, class FileAsBytes>
 void file_descriptors(Reader& reader, int size, Failure failure, LoopEnd end, File file,
                       FileAsBytes file_as_bytes) {
   ParseState* const state = reader.state();
-  if (state == nullptr) return reader.each_descriptor(size, failure, file, end);
-  auto const take = [&](DescriptorBytes descriptor) {
+  auto const take = [&](DescriptorBytes descriptor, unsigned int specifier) {
+    if (state == nullptr) return file(descriptor, specifier);
     if (!state->admits(descriptor)) return;
-    if (!state->attempt(descriptor.tag(), [&] { file(descriptor); })) file_as_bytes(descriptor);
+    bool const is_filed = state->attempt(descriptor.tag(), [&] { file(descriptor, specifier); });
+    if (!is_filed) file_as_bytes(descriptor, specifier);
   };
-  if (!state->attempt(-1, [&] { reader.each_descriptor(size, failure, take, end); })) reader.skip_loop(size);
+  auto const take_all = [&] {
+    reader.descriptor_loop(size, failure, end, [&](DescriptorLoop& loop) {
+      while (loop.more()) {
+        DescriptorBytes const descriptor = loop.next();
+        take(descriptor, loop.private_data_specifier());
+      }
+    });
+  };
+  if (state == nullptr) return take_all();
+  if (!state->attempt(-1, take_all)) reader.skip_loop(size);
 }
 
 }  // namespace sivane

@@ -186,6 +186,11 @@ inline Reader DescriptorBytes::body(Failure overrun) const {
   return {first + 2, length(), available - 2, overrun, offset < 0 ? -1 : offset + 2};
 }
 
+inline unsigned int DescriptorLoop::specifier_of(DescriptorBytes descriptor) {
+  constexpr int size = 4;
+  return descriptor.length() < size ? 0 : descriptor.body().u32();
+}
+
 template <class Record, class... Arguments>
 void Reader::walk(std::vector<Record>& found, Failure failure, Arguments... arguments) {
   int begin = offset_at(end_);

@@ -12,13 +12,13 @@ void Cat::_parse(unsigned char const* body) {
   Reader reader = body_reader(body, invalid_size);
   int const end = reader.offset() + reader.left();
   auto const fits = [end](DescriptorBytes d) { return d.offset + 2 + d.length() <= end; };
-  auto const file = [&](DescriptorBytes descriptor) {
+  auto const file = [&](DescriptorBytes descriptor, unsigned int) {
     if (!fits(descriptor)) raise(invalid_size, descriptor.offset);
     if (descriptor.tag() != ca_tag) raise(invalid_tag, descriptor.offset);
     ParseDescriptor(descriptor);
   };
-  auto const file_bytes = [&](DescriptorBytes descriptor) {
-    if (fits(descriptor)) file_as_bytes(descriptor);
+  auto const file_bytes = [&](DescriptorBytes descriptor, unsigned int specifier) {
+    if (fits(descriptor)) file_as_bytes(descriptor, specifier);
   };
   file_descriptors(reader, reader.left(), invalid_size, LoopEnd::open, file, file_bytes);
 }

@@ -21,15 +21,17 @@ void parse_network_body(Table& table, Reader reader) {
 
   int const descriptors_length = length_field(reader);
   // Where the last descriptor ends is not looked at.
-  auto const file = [&table](DescriptorBytes descriptor) {
+  auto const file = [&table](DescriptorBytes descriptor, unsigned int specifier) {
     if (descriptor.tag() == ca_tag) {
       table.ca_descriptors.emplace_back(descriptor);
     } else {
-      table.ParseDescriptor(descriptor);
+      table.ParseDescriptor(descriptor, specifier);
     }
   };
   file_descriptors(reader, descriptors_length, start_end_mismatch, LoopEnd::open, file,
-                   [&table](DescriptorBytes descriptor) { table.file_as_bytes(descriptor); });
+                   [&table](DescriptorBytes descriptor, unsigned int specifier) {
+                     table.file_as_bytes(descriptor, specifier);
+                   });
 
   int const loop_length = length_field(reader);
   Reader loop = reader.loop(loop_length, start_end_mismatch);

@@ -3,6 +3,7 @@
 //
 // Sets as values, their loops, and what no case file can say of descriptors.
 #include <gtest/gtest.h>
+#include <sivane/foundation/parse_state.h>
 
 #include <sstream>
 #include <type_traits>
@@ -89,6 +90,31 @@ TYPED_TEST(EitherSet, GeneralDescriptorsAreClearedAloneOrAllOfThem) {
     parse(set, "52 01 22");
     EXPECT_EQ(set.get_stream_identifier_descriptors().at(0).component_tag, 0x22);
   }
+}
+
+/// The specifiers that private descriptors remember of a loop; with options the set builds these alone.
+template <class Set>
+std::vector<unsigned int> specifiers(Bytes const& loop, ParseOptions* options) {
+  int const size = static_cast<int>(loop.size());
+  ParseState state(size, options);
+  Reader reader(loop.data(), size, size, too_little_data, 0, &state);
+  Set set;
+  set.parse_descriptors(reader, size, too_little_data);
+  std::vector<unsigned int> found;
+  for (auto const& d : set.get_user_private_descriptors()) found.push_back(d.private_data_specifier);
+  return found;
+}
+
+TYPED_TEST(EitherSet, PrivateDescriptorsRememberTheSpecifierBeforeThem) {
+  Bytes const loop = assemble(
+      "83[ 01 ] 5F[ FFFFFF28 ] 83[ 02 ] 83[ 03 ] 15[] 84[] 5F[ 00000001 ] 5F[ 00000029 ] 83[] 5F[ 01 ] 83[ "
+      "00 ]");
+  std::vector<unsigned int> const expected = {0, 0xFFFFFF28, 0xFFFFFF28, 0xFFFFFF28, 0x29, 0};
+  EXPECT_EQ(specifiers<TypeParam>(loop, nullptr), expected);
+  ParseOptions options;
+  options.build_only({0x83, 0x84});
+  EXPECT_EQ(specifiers<TypeParam>(loop, &options), expected);
+  EXPECT_EQ(specifiers<TypeParam>(assemble("83[]"), nullptr), std::vector<unsigned int>{0});
 }
 
 TEST(DescriptorSet, GeneralDescriptorsBuiltByHand) {
