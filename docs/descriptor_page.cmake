@@ -10,7 +10,7 @@ dumps too where nothing else is given. Odd spellings belong to documents and dum
 ")
 
 # HEADER_OF_<class>: the header that a class is in.
-file(GLOB headers RELATIVE ${sources} ${sources}/*.h)
+file(GLOB headers RELATIVE ${sources} ${sources}/*.h ${sources}/extended/*.h)
 foreach(header ${headers})
   file(STRINGS ${sources}/${header} lines REGEX "^class SIVANE_API [A-Za-z0-9_]+ ")
   foreach(line ${lines})
@@ -50,6 +50,27 @@ endmacro()
 
 add_rows("In all tables but the AIT" descriptor_rows.inc)
 add_rows("In an application information table" ait_descriptor_rows.inc)
+
+string(APPEND page "
+## Built on demand
+
+A set keeps these as bytes, as `DescriptorGeneral`; [extended.h](../sivane/descriptors/extended/extended.h) has the
+functions that make objects of them. The extension is the first byte of the body; the specifier is the
+private_data_specifier that must be in force.
+
+| tag | extension | specifier | class | in dumps |
+|---|---|---|---|---|
+")
+file(STRINGS ${sources}/extended/extended_descriptor_rows.inc rows REGEX "^SIVANE_EXTENDED_ROW\\(")
+foreach(row ${rows})
+  string(REGEX MATCH "^SIVANE_EXTENDED_ROW\\(([^,]+), *([^,]+), *([^,]+), *([^,]+), *\"([^\"]+)\"\\)$" whole "${row}")
+  if(NOT whole OR NOT HEADER_OF_${CMAKE_MATCH_4})
+    message(FATAL_ERROR "not understood: ${row}")
+  endif()
+  set(columns "${CMAKE_MATCH_1} | ${CMAKE_MATCH_2} | ${CMAKE_MATCH_3}")
+  string(REPLACE "any" "" columns "${columns}")
+  string(APPEND page "| ${columns} | [${CMAKE_MATCH_4}](../sivane/descriptors/${HEADER_OF_${CMAKE_MATCH_4}}) | `${CMAKE_MATCH_5}` |\n")
+endforeach()
 
 if(NOT CHECK)
   file(WRITE ${page_file} "${page}")

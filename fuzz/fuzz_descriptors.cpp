@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Any bytes as a loop of descriptors that ends with its section: parse, name values, dump, copy, destroy. Bit
-// 0 of the first byte chooses the tag space of an AIT. A descriptor that is refused ends nothing, so that
-// every one of an input gets its turn. The loop that hosts have for descriptors of their own walks there too.
+// Any bytes as a loop of descriptors that ends with its section: parse, name values, dump, copy, destroy, and
+// build on demand those that the set keeps as bytes. Bit 0 of the first byte chooses the tag space of an AIT.
+// A descriptor that is refused ends nothing, so that every one of an input gets its turn. The loop that hosts
+// have for descriptors of their own walks there too.
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
+#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -44,6 +46,23 @@ void exercise(sivane::AitDescriptorSet const& set) {
 void file(sivane::DescriptorSet& set, sivane::DescriptorBytes bytes) { set.ParseDescriptor(bytes); }
 void file(sivane::AitDescriptorSet& set, sivane::DescriptorBytes bytes) { set.ParseDescriptorAit(bytes); }
 
+/// Where no private tags are in force, and where those are that have classes.
+void exercise_extended(sivane::DescriptorBytes bytes) {
+  std::ostringstream text;
+  for (unsigned int const specifier : {0x00u, 0x28u, 0x29u}) {
+    try {
+      auto const built = sivane::extended::build(bytes, specifier);
+      if (built == nullptr) continue;
+      sivane::fuzzing::check_text(built->get_tag_text());
+      built->dump_state(text);
+      built->_reset();
+      built->dump_state(text);
+    } catch (sivane::error const& failure) {
+      check(failure.text == "too little data", "the only way to fail");
+    }
+  }
+}
+
 template <class Set>
 void exercise_loop(std::vector<unsigned char> const& block) {
   unsigned char const* const end = block.data() + block.size();
@@ -51,6 +70,7 @@ void exercise_loop(std::vector<unsigned char> const& block) {
   for (unsigned char const* at = block.data(); end - at >= 2;
        at += std::min<std::ptrdiff_t>(2 + at[1], end - at)) {
     try {
+      exercise_extended({at, end});
       file(set, {at, end});
     } catch (sivane::error const& failure) {
       check(failure.what() != nullptr, "what() is never null");

@@ -222,6 +222,14 @@ void write_descriptors(fs::path const& folder) {
   }
   write(folder / "all-genres", all_genres(dvb));
   write(folder / "ait-all", Bytes{ait} + sivane::testing::assemble(one_of_each({"ait"})));
+  for (char const* const name : {"mpeg", "dvb", "extension", "private"}) {
+    Bytes loop{dvb};
+    for (auto const& one :
+         sivane::testing::read_steps(std::string("descriptors/extended/") + name + ".txt")) {
+      loop = std::move(loop) + sivane::testing::assemble(one.argument);
+    }
+    write(folder / (std::string("extended-") + name), loop);
+  }
 }
 
 /// Calls of every kind: `DomScript` says what they are.

@@ -25,6 +25,9 @@
 #include <sivane/descriptors/ait_descriptor_set.h>
 #include <sivane/descriptors/descriptor_set.h>
 
+// Descriptors that the sets keep as bytes, built on demand.
+#include <sivane/descriptors/extended/extended.h>
+
 // What an object holds, for a form of the host's own.
 #include <sivane/fields/field_visitor.h>
 
