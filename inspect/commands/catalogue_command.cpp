@@ -12,8 +12,8 @@ namespace {
 
 template <class Class>
 bool add(Table const& table, sivane::catalogue::Catalogue& catalogue) {
-  auto const* const same = dynamic_cast<TableOf<Class> const*>(&table);
-  if (same != nullptr) catalogue.add(same->object());
+  Class const* const same = table.as<Class>();
+  if (same != nullptr) catalogue.add(*same);
   return same != nullptr;
 }
 
