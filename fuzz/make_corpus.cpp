@@ -261,6 +261,18 @@ void write_records(fs::path const& folder) {
   }
 }
 
+/// A field of each table and control, behind the choice of the host's tables.
+void write_texts(fs::path const& folder) {
+  constexpr std::size_t blocks_with_a_table = 3;
+  auto const blocks = sivane::testing::read_blocks("charset/cases/texts.txt");
+  for (std::size_t i = 0; i < blocks_with_a_table; ++i) {
+    for (auto const& [text, number] : blocks.at(i).lines) {
+      Bytes const field = sivane::testing::hex(text.substr(0, text.find(" | ")));
+      write(folder / std::to_string(number), Bytes{static_cast<unsigned char>(number)} + field);
+    }
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -273,5 +285,6 @@ int main(int argc, char** argv) {
   write_descriptors(corpora / "descriptors");
   write_dom(corpora / "dom");
   write_records(corpora / "records");
+  write_texts(corpora / "texts");
   return 0;
 }

@@ -4,12 +4,15 @@
 // The texts that broadcasts are written in, as UTF-8.
 #include <gtest/gtest.h>
 #include <sivane/charset/charset.h>
+#include <sivane/charset/encoder.h>
 #include <sivane/charset/utf8.h>
 
+#include <new>
 #include <stdexcept>
 #include <utility>
 
 #include "case_file.h"
+#include "iconv_calls.h"
 #include "section_builder.h"
 
 namespace sivane::testing {
@@ -106,6 +109,58 @@ TEST(Converter, TakesTheTablesOfTheHost) {
   EXPECT_THROW(charset::Converter{unknown}, std::invalid_argument);
   std::swap(unknown.overrule, unknown.default_table);
   EXPECT_THROW(charset::Converter{unknown}, std::invalid_argument);
+}
+
+TEST(Converter, OpensATableOnceAndNoneForAscii) {
+  iconv_calls_since_last_time();
+  charset::Converter converter;
+  for (char const* const field : {"", "Plain",
+                                  "\x05"
+                                  "Plain",
+                                  "\x12"
+                                  "Plain",
+                                  "\x15"
+                                  "Pl\xC3\xA4in",
+                                  "\x1F\x01"
+                                  "Plain"}) {
+    converter.utf8(field);
+  }
+  auto const [opened, converted] = iconv_calls_since_last_time();
+  EXPECT_EQ(opened, 0);
+  EXPECT_EQ(converted, 0);
+  for (int i = 0; i < 3; ++i)
+    EXPECT_EQ(converter.utf8("caf\xC2"
+                             "e") +
+                  converter.utf8("\x05\xFD"),
+              "caf\u00e9\u0131");
+  EXPECT_EQ(iconv_calls_since_last_time().opened, 2);
+}
+
+TEST(Converter, TellsWhereThereIsNoMemory) {
+  charset::Converter converter;
+  refuse_to_open(3);  // twice for the table, then for what every iconv has
+  EXPECT_THROW(converter.utf8("caf\xC2"
+                              "e"),
+               std::bad_alloc);
+  refuse_to_open(2);
+  EXPECT_THROW(converter.utf8("caf\xC2"
+                              "e"),
+               std::runtime_error);
+  refuse_to_open(1);
+  EXPECT_EQ(converter.utf8("caf\xC2"
+                           "e"),
+            "caf\u00e9");
+  charset::Options options;
+  options.overrule = "ISO-8859-1";
+  refuse_to_open(3);
+  EXPECT_THROW(charset::Converter{options}, std::bad_alloc);
+}
+
+TEST(Encoder, PutsAQuestionMarkForWhatAnEncodingLacks) {
+  charset::Encoder encoder("ISO-8859-15");
+  for (int i = 0; i < 2; ++i) EXPECT_EQ(encoder.encode("\u20ac\u0141a\xFF\xE4\xB8"), "\xA4?a???");
+  EXPECT_EQ(charset::Encoder("UTF-16BE").encode("A\u0141"), std::string("\0A\x01\x41", 4));
+  EXPECT_THROW(charset::Encoder("Klingon"), std::invalid_argument);
 }
 
 }  // namespace
