@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 //
 // The snippets of docs/guide.md in one program, run over the stream that it is given.
+#include <sivane/charset/charset.h>
 #include <sivane/dom/document.h>
 #include <sivane/dom/element_reader.h>
 #include <sivane/dom/element_writer.h>
@@ -197,13 +198,16 @@ class ServiceNames final : public sivane::DemuxPush {
       sdt.Parse(section);
       for (sivane::Sdt::Service_info const& service : sdt.service_infos) {
         for (sivane::DescriptorService const& descriptor : service.get_service_descriptors()) {
-          names[service.service_id] = descriptor.service_name;
+          names[service.service_id] = texts_.utf8(descriptor.service_name);
         }
       }
     } catch (sivane::error const& failure) {
       std::cerr << "PID " << pid << ": " << failure.what() << '\n';
     }
   }
+
+ private:
+  sivane::charset::Converter texts_;
 };
 
 // Events
@@ -222,13 +226,16 @@ class PresentEvents final : public sivane::DemuxPush {
       eit.Parse(section);
       for (sivane::Eit::EventInfo const& event : eit.event_infos) {
         for (sivane::DescriptorShortEvent const& descriptor : event.get_short_event_descriptors()) {
-          names[eit.context_id] = descriptor.event_name;
+          names[eit.context_id] = texts_.utf8(descriptor.event_name);
         }
       }
     } catch (sivane::error const& failure) {
       std::cerr << "PID " << pid << ": " << failure.what() << '\n';
     }
   }
+
+ private:
+  sivane::charset::Converter texts_;
 };
 
 // Every field of any table
@@ -246,6 +253,16 @@ void print_numbers(std::vector<unsigned char> const& section) {
   sivane::visit_table(table, numbers);
   bool const same = table == sivane::parse_table(section.data(), section.size());
   std::cout << (same ? "it has not changed\n" : "it has changed\n");
+}
+
+// Texts
+
+std::string on_one_line(sivane::Text const& text) {
+  sivane::charset::Options options;
+  options.default_table = "ISO-8859-1";
+  options.line_break = " / ";
+  sivane::charset::Converter converter(options);  // a program keeps one
+  return converter.utf8(text);
 }
 
 // Documents
@@ -321,11 +338,17 @@ int main(int argc, char** argv) {
 
   print_numbers({0x72, 0x70, 0x00});                                                        // of no class
   print_numbers({0x71, 0x70, 0x09, 0x00, 0x01, 0x00, 0x02, 0x00, 0x03, 0x00, 0x04, 0x04});  // an Rst
-  sivane::init();
-  unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
-  print_scrambling(sivane::DescriptorCa(ca));
-  bool const found = tables.parsed == 2 && receiver_of_bytes.sections >= events.sections &&
-                     receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() &&
-                     !present.names.empty() && programme.names > 0;
-  return whole && found && survives ? 0 : 1;
+}
+
+unsigned char const field[] = {6, 'C', 'a', 'f', 0xE9, 0x8A, '!'};
+int used = 0;
+bool const readable = on_one_line(sivane::Text(field, used)) == "Caf\u00e9 / !";
+
+sivane::init();
+unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
+print_scrambling(sivane::DescriptorCa(ca));
+bool const found = tables.parsed == 2 && receiver_of_bytes.sections >= events.sections &&
+                   receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() &&
+                   !present.names.empty() && programme.names > 0;
+return whole && found && survives && readable ? 0 : 1;
 }
