@@ -2,46 +2,12 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/demux/demux.h>
 #include <sivane/demux/reception.h>
-#include <sivane/foundation/error.h>
 
-#include <algorithm>
 #include <memory>
 #include <ostream>
 #include <utility>
 
 namespace sivane {
-
-namespace {
-
-constexpr int header_size = 4;
-
-bool has_adaptation_field(Demux::TSHeader const& header) {
-  return (header.adaptation_field_control & 2) != 0;
-}
-
-}  // namespace
-
-Demux::TSHeader::TSHeader(unsigned char const* packet)
-    : transport_error_indicator(packet[1] >> 7),
-      payload_unit_start_indicator(packet[1] >> 6 & 1),
-      transport_priority(packet[1] >> 5 & 1),
-      pid((packet[1] & 0x1F) << 8 | packet[2]),
-      transport_scrambling_control(packet[3] >> 6),
-      adaptation_field_control(packet[3] >> 4 & 3),
-      continuity_counter(packet[3] & 0xF) {
-  if (packet[0] != ts_sync_byte) throw error("TS syncbyte expected");
-}
-
-void Demux::TSHeader::dump_state(std::ostream& os) const {
-  os << "tei: " << transport_error_indicator << " pusi: " << payload_unit_start_indicator
-     << " tp: " << transport_priority << " pid: " << std::hex << pid
-     << " tsc: " << transport_scrambling_control << " afc: " << adaptation_field_control
-     << " cc: " << continuity_counter << std::endl;
-}
-
-Demux::AdaptionFieldHeader::AdaptionFieldHeader(unsigned char const* field, int& length) {
-  length = field[0] + 1;
-}
 
 /// The entry of a PID, made where there is none. One to which nothing could be added goes again.
 class Demux::PidEntry {
@@ -130,34 +96,6 @@ int Demux::start() {
     if (!is_packet) return 2;
   }
   return exit_code;
-}
-
-void Demux::route_packet(unsigned char const* packet) {
-  if (receptions_ != nullptr) {
-    route_watched((packet[1] & 0x1F) << 8 | packet[2], packet);
-    return;
-  }
-  TSHeader header(packet);
-  Payload const payload = show_packet(header, packet);
-  if (PidHandler* const handler = find_handler(header.pid))
-    handler->parse(header, payload.data, payload.size);
-}
-
-Demux::Payload Demux::show_packet(TSHeader const& header, unsigned char const* packet) {
-  on_ts_packet(header, packet + header_size);
-  Payload const payload = payload_of(header, packet);
-  if (has_adaptation_field(header)) {
-    int field_length = 0;
-    AdaptionFieldHeader const field(packet + header_size, field_length);
-    on_adaption_field_header_(field, payload.data);
-  }
-  return payload;
-}
-
-Demux::Payload Demux::payload_of(TSHeader const& header, unsigned char const* packet) {
-  int offset = header_size;
-  if (has_adaptation_field(header)) offset = std::min(header_size + 1 + packet[header_size], ts_packet_size);
-  return {packet + offset, ts_packet_size - offset};
 }
 
 void Demux::drop_pid(std::map<int, PidHandler*>::iterator entry) {
