@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// The main of a benchmark program: prints a sentence for each comparison.
+// The main of a benchmark program: prints a sentence for each comparison, or with `--goals` a table of those
+// that have one.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "goals.h"
 
 namespace {
 
@@ -58,11 +63,26 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
   static double number(Run const& run, char const* name) { return run.counters.at(name).value; }
 };
 
+/// Whether `--goals` was given, which benchmark does not know and must not see.
+bool take_goals(int& argc, char** argv) {
+  char** const end = std::remove_if(argv + 1, argv + argc,
+                                    [](char const* word) { return std::string_view(word) == "--goals"; });
+  bool const was_given = end != argv + argc;
+  argc = static_cast<int>(end - argv);
+  return was_given;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  bool const only_goals = take_goals(argc, argv);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+  if (only_goals) {
+    sivane::bench::GoalReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter, reporter.filter());
+    return reporter.failed ? 1 : 0;
+  }
   RatioReporter reporter;
   std::size_t const run = benchmark::RunSpecifiedBenchmarks(&reporter);
   return run > 0 && !reporter.failed ? 0 : 1;
