@@ -53,5 +53,6 @@
 #include <sivane/xml/attributes.h>
 #include <sivane/xml/dom.h>
 
-// Registered names of numbers, for hosts that show them; opened by `init`.
+// Names of coded values, and registered names of numbers, which `init` opens, for hosts that show them.
+#include <sivane/registry/codes.h>
 #include <sivane/registry/registry.h>

@@ -5,11 +5,9 @@
 #include <sivane/sivane.h>
 
 #include <ostream>
-#include <string_view>
 
 #include "text/hexadecimal.h"
 #include "text/names.h"
-#include "text/service_types.h"
 #include "text/terminal.h"
 
 namespace inspect {
@@ -25,8 +23,8 @@ std::string running_text(int status) {
 
 std::string type_text(int type) {
   if (type < 0) return "-";
-  std::string_view const text = service_type_text(type);
-  return text.empty() ? c_hexadecimal(type, 1) : std::string(text);
+  char const* const text = sivane::service_type_name(type);
+  return text == nullptr ? c_hexadecimal(type, 1) : text;
 }
 
 std::string access_text(Service const& service, std::vector<int> const& systems) {
