@@ -338,17 +338,16 @@ int main(int argc, char** argv) {
 
   print_numbers({0x72, 0x70, 0x00});                                                        // of no class
   print_numbers({0x71, 0x70, 0x09, 0x00, 0x01, 0x00, 0x02, 0x00, 0x03, 0x00, 0x04, 0x04});  // an Rst
-}
 
-unsigned char const field[] = {6, 'C', 'a', 'f', 0xE9, 0x8A, '!'};
-int used = 0;
-bool const readable = on_one_line(sivane::Text(field, used)) == "Caf\u00e9 / !";
+  unsigned char const field[] = {6, 'C', 'a', 'f', 0xE9, 0x8A, '!'};
+  int used = 0;
+  bool const readable = on_one_line(sivane::Text(field, used)) == "Caf\u00e9 / !";
 
-sivane::init();
-unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
-print_scrambling(sivane::DescriptorCa(ca));
-bool const found = tables.parsed == 2 && receiver_of_bytes.sections >= events.sections &&
-                   receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() &&
-                   !present.names.empty() && programme.names > 0;
-return whole && found && survives && readable ? 0 : 1;
+  sivane::init();
+  unsigned char const ca[] = {0x09, 0x04, 0x01, 0x00, 0xE1, 0x23};
+  print_scrambling(sivane::DescriptorCa(ca));
+  bool const found = tables.parsed == 2 && receiver_of_bytes.sections >= events.sections &&
+                     receiver.program_maps > 0 && events.sections > 0 && !services.names.empty() &&
+                     !present.names.empty() && programme.names > 0;
+  return whole && found && survives && readable ? 0 : 1;
 }
