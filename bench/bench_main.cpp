@@ -80,7 +80,7 @@ int main(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
   if (only_goals) {
     sivane::bench::GoalReporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter, reporter.filter());
+    benchmark::RunSpecifiedBenchmarks(&reporter, sivane::bench::GoalReporter::filter());
     return reporter.failed ? 1 : 0;
   }
   RatioReporter reporter;

@@ -2,8 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 //
 // A large EIT saved and loaded, beside the document's own work alone: building the same tree of texts that
-// are ready, and going through it and reading every text; and beside what pugixml, which holds the tree,
-// takes for building and writing it.
+// are ready, and going through it and reading every text; and beside what pugixml takes
+// for building and writing it.
 #include <sivane/dom/document.h>
 #include <sivane/tables/eit.h>
 

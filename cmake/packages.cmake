@@ -89,9 +89,9 @@ sivane_package(development libsivane-dev libdevel "Headers, the CMake package an
   "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})")
 if(TARGET sivane_dom)
   sivane_install_component(dom "A DOM for hosts without one"
-    PACKAGES "pugixml 1.13" EXPAT
-    PC "pugixml >= 1.13" expat
-    DEBIAN "libpugixml-dev (>= 1.13)" libexpat1-dev)
+    PACKAGES EXPAT
+    PC expat
+    DEBIAN libexpat1-dev)
 endif()
 if(TARGET sivane_charset)
   set(iconv)

@@ -61,13 +61,12 @@ void append_utf16(std::u16string& text, char32_t c) {
 
 /// Copies into other units; false unless all of it is ASCII without controls, which both sides spell alike.
 /// Without an early end, so that it is done for many characters at a time.
-template <class To, class From>
-bool copy_plain(From const& text, To& converted) {
-  converted.resize(text.size());
+template <class From, class To>
+bool copy_into(From const& text, To* converted) {
   bool is_odd = false;
   for (std::size_t i = 0; i < text.size(); ++i) {
     auto const unit = static_cast<std::conditional_t<sizeof(text[0]) == 1, unsigned char, char16_t>>(text[i]);
-    converted[i] = static_cast<typename To::value_type>(unit);
+    converted[i] = static_cast<To>(unit);
     is_odd |= unit < 0x20 || unit > 0x7E;
   }
   return !is_odd;
@@ -79,22 +78,32 @@ bool continues_name(char c) { return starts_name(c) || (c >= '0' && c <= '9') ||
 
 }  // namespace
 
+bool copy_plain(std::u16string_view text, char* converted) { return copy_into(text, converted); }
+
 std::string to_utf8(std::u16string_view text) {
   std::string converted;
-  if (copy_plain(text, converted)) return converted;
-  converted.clear();
   converted.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) append_utf8(converted, as_xml(next_code_point(text, at)));
   return converted;
 }
 
 std::u16string from_utf8(std::string_view text) {
-  std::u16string converted;
-  if (copy_plain(text, converted)) return converted;
+  std::u16string converted(text.size(), u'\0');
+  if (copy_into(text, converted.data())) return converted;
   converted.clear();
   converted.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) append_utf16(converted, from_xml(next_code_point(text, at)));
   return converted;
+}
+
+/// Names are mostly ASCII: only others are turned into the same form first.
+bool is_same(std::string_view name, char16_t const* wide) {
+  char16_t const* at = wide;
+  for (char const c : name) {
+    if (static_cast<unsigned char>(c) > 0x7E) return to_utf8(wide) == name;
+    if (static_cast<char16_t>(c) != *at++) return false;
+  }
+  return *at == 0;
 }
 
 bool is_name(std::string_view text) {

@@ -48,14 +48,19 @@ void put_into(std::string const& path, std::string const& text) {
   if (!whole || std::fclose(file.release()) != 0) fail();
 }
 
-void read_checked(std::string_view text, Tree& tree) {
+/// Documents are made here alone.
+DocumentNode& node_of(CComPtr<IXMLDOMDocument> const& document) {
+  return *static_cast<DocumentNode*>(document.get());
+}
+
+void read_checked(std::string_view text, DocumentNode& document) {
   if (text.size() > max_size) throw error(too_large().c_str());
-  read(text, tree);
+  read(text, document);
 }
 
 }  // namespace
 
-Document::Document() : tree_(std::make_shared<Tree>()), dom_(document_node(tree_)) {}
+Document::Document() : dom_(new_tree()) {}
 Document::Document(Document&&) noexcept = default;
 Document& Document::operator=(Document&&) noexcept = default;
 Document::~Document() = default;
@@ -63,7 +68,7 @@ Document::~Document() = default;
 Document Document::load_file(std::string const& path) {
   return explained("load " + path, [&] {
     Document document;
-    read_checked(content_of(path), *document.tree_);
+    read_checked(content_of(path), node_of(document.dom_));
     return document;
   });
 }
@@ -71,31 +76,30 @@ Document Document::load_file(std::string const& path) {
 Document Document::load_string(std::string_view text) {
   return explained("load the document", [&] {
     Document document;
-    read_checked(text, *document.tree_);
+    read_checked(text, node_of(document.dom_));
     return document;
   });
 }
 
 void Document::save_file(std::string const& path) const {
-  explained("save " + path, [&] { put_into(path, write(*tree_)); });
+  explained("save " + path, [&] { put_into(path, write(node_of(dom_))); });
 }
 
 std::string Document::save_string() const {
-  return explained("save the document", [&] { return write(*tree_); });
+  return explained("save the document", [&] { return write(node_of(dom_)); });
 }
 
 CComPtr<IXMLDOMElement> Document::make_root(std::string const& name) {
-  if (tree_->root()) throw error("the document has a root element already");
+  DocumentNode& document = node_of(dom_);
+  if (document.root() != nullptr) throw error("the document has a root element already");
   check_name(name);
-  auto element = element_node(tree_, append_element(tree_->unplaced, name.c_str()));
-  dom_->appendChild(element.get(), nullptr);
-  return element;
+  return CComPtr<IXMLDOMElement>(&append_element(document.tree(), document, name));
 }
 
 CComPtr<IXMLDOMElement> Document::root_element() const {
-  pugi::xml_node const root = tree_->root();
-  if (!root) throw error("the document has no root element");
-  return element_node(tree_, root);
+  Element* const root = node_of(dom_).root();
+  if (root == nullptr) throw error("the document has no root element");
+  return CComPtr<IXMLDOMElement>(root);
 }
 
 CComPtr<IXMLDOMNode> Document::root_node() const { return root_element(); }

@@ -6,13 +6,10 @@
 
 #include <sivane/xml/dom.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
 
 namespace sivane::dom {
-
-struct Tree;
 
 /// An XML document that tables and descriptors save themselves to and load themselves from.
 ///
@@ -32,7 +29,8 @@ struct Tree;
 /// that no entity but the five of XML stands for anything. Text of blanks alone is dropped. The encodings are
 /// UTF-8, UTF-16, ISO-8859-1 and US-ASCII; UTF-8 is written.
 ///
-/// References to nodes stay valid when the document is gone. A document and its nodes serve one thread at a
+/// References to nodes stay valid when the document is gone; its memory is given back with the last of them,
+/// that of nodes and values which are no longer in it too. A document and its nodes serve one thread at a
 /// time.
 class Document {
  public:
@@ -65,7 +63,6 @@ class Document {
   CComPtr<IXMLDOMNode> root_node() const;
 
  private:
-  std::shared_ptr<Tree> tree_;
   CComPtr<IXMLDOMDocument> dom_;
 };
 

@@ -38,8 +38,8 @@ class ElementReader::Impl final : public Content {
 
   CComPtr<IXMLDOMNode> next() {
     advance();
-    auto const tree = std::exchange(tree_, nullptr);
-    return tree ? element_node(tree, tree->root()) : CComPtr<IXMLDOMElement>();
+    auto const document = std::exchange(document_, {});
+    return document ? CComPtr<IXMLDOMNode>(document->root()) : CComPtr<IXMLDOMNode>();
   }
 
   std::string const& root_name() const { return root_name_; }
@@ -52,7 +52,7 @@ class ElementReader::Impl final : public Content {
       stop_here();
       return;
     }
-    if (level_ == 2) builder_.emplace(*(tree_ = std::make_shared<Tree>()));
+    if (level_ == 2) builder_.emplace(*(document_ = new_tree()).get());
     builder_->start(name, attributes);
   }
 
@@ -122,7 +122,7 @@ class ElementReader::Impl final : public Content {
   Parser parser_;
   Names names_;
   std::string root_name_;
-  std::shared_ptr<Tree> tree_;  ///< of the element under way, or complete and not handed out yet
+  CComPtr<DocumentNode> document_;  ///< of the element under way, or complete and not handed out yet
   std::optional<TreeBuilder> builder_;
   int level_ = 0;
   unsigned long fed_ = 0;       ///< bytes that the parser was given, modulo the type

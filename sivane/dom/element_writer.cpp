@@ -20,12 +20,11 @@ ElementWriter::ElementWriter(std::ostream& out, std::string root) : out_(out), r
 
 void ElementWriter::write(std::string const& name, Fill const& fill) {
   check_name(name);
-  auto const tree = std::make_shared<Tree>();
-  auto const element = element_node(tree, append_element(tree->document, name.c_str()));
-  fill(document_node(tree).get(), element.get());
+  auto const document = new_tree();
+  fill(document.get(), &append_element(document->tree(), *document.get(), name));
   explained(task, [&] {
     std::string text = is_empty_ ? std::string(declaration) + '<' + root_ + ">\n" : std::string();
-    append_root(text, *tree, 1);
+    append_root(text, *document.get(), 1);
     if (text.size() > max_size) throw error(too_large().c_str());
     put(text);
     is_empty_ = false;

@@ -2,9 +2,16 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/dom/parser.h>
 #include <sivane/dom/refusal.h>
-#include <sivane/dom/tree.h>
 
 namespace sivane::dom {
+
+namespace {
+template <class Pointer>
+Pointer not_null(Pointer pointer) {
+  if (pointer == nullptr) throw std::bad_alloc();
+  return pointer;
+}
+}  // namespace
 
 Parser::Parser(Content& content) : content_(content), parser_(not_null(XML_ParserCreate(nullptr))) {
   XML_SetUserData(parser_.get(), this);

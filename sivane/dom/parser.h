@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Internal: Expat, and what it refuses of any document. It does the parsing, since pugixml's own parser takes
-// much that is not well-formed.
+// Internal: Expat, and what it refuses of any document.
 #pragma once
 
 #include <expat.h>

@@ -1,55 +1,74 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 //
-// Internal: one document in the memory of pugixml. Every text in it is as the file shows it (characters.h).
+// Internal: one document in memory. Its nodes are the objects of the DOM themselves and lie in the tree's
+// arena, together with their texts, which are as the file shows them (characters.h). A reference to any of
+// them keeps the whole tree, which is gone with the last one; no node is freed singly.
 #pragma once
 
-#include <memory>
-#include <new>
-#include <pugixml.hpp>
-#include <string>
+#include <sivane/dom/arena.h>
+#include <sivane/xml/dom.h>
+
+#include <string_view>
 
 namespace sivane::dom {
 
-/// pugixml says by a null handle that memory is exhausted.
-template <class Handle>
-Handle not_null(Handle handle) {
-  if (!handle) throw std::bad_alloc();
-  return handle;
-}
-
-inline void check_memory(bool done) {
-  if (!done) throw std::bad_alloc();
-}
-
-// pugixml's own forms that take a name say nothing of one for which there was no memory. What lacks its name
-// would make a wrong document, and goes again.
-
-inline pugi::xml_node append_element(pugi::xml_node parent, char const* name) {
-  pugi::xml_node added = not_null(parent.append_child(pugi::node_element));
-  if (added.set_name(name)) return added;
-  parent.remove_child(added);
-  throw std::bad_alloc();
-}
-
-inline void append_attribute(pugi::xml_node element, char const* name, char const* value) {
-  pugi::xml_attribute added = not_null(element.append_attribute(""));
-  if (added.set_name(name) && added.set_value(value)) return;
-  element.remove_attribute(added);
-  throw std::bad_alloc();
-}
-
-/// All references of a document share its tree, which is gone with the last of them. Nodes with children are
-/// never freed singly, since pugixml descends into the children by recursion.
 struct Tree {
-  pugi::xml_node root() const {
-    return document.find_child([](pugi::xml_node node) { return node.type() == pugi::node_element; });
+  Arena arena;
+  long references = 0;
+};
+
+enum class Kind : unsigned char { document, element, text, comment, instruction };
+
+struct Branch;
+
+/// Where a node stands.
+struct Place {
+  explicit Place(Kind a_kind) : kind(a_kind) {}
+
+  Kind kind;
+  Branch* parent = nullptr;  ///< null for the document, and for an element that nobody has appended
+  Place* previous = nullptr;
+  Place* next = nullptr;
+};
+
+/// What has children.
+struct Branch : Place {
+  using Place::Place;
+
+  Place* first = nullptr;
+  Place* last = nullptr;
+};
+
+/// Makes `child`, which stands nowhere, the last one.
+void append(Branch& parent, Place& child);
+/// Takes it from where it stands, if it does.
+void remove(Place& child);
+/// Whether `inner` is `outer` or below it.
+bool stands_within(Branch const& inner, Branch const& outer);
+
+/// Goes through all that is below a node, and leaves each again. Without recursion, since a tree may have any
+/// depth.
+class Walk {
+ public:
+  explicit Walk(Place const& root) : root_(&root), at_(&root) {}
+
+  Place const& place() const { return *at_; }
+  bool is_leaving() const { return is_leaving_; }  ///< the second time, behind the children
+  int level() const { return level_; }             ///< 0 for the root
+  /// False behind the end.
+  bool advance();
+
+ private:
+  Place const* first_child() const {
+    bool const is_branch = at_->kind == Kind::element || at_->kind == Kind::document;
+    return is_branch ? static_cast<Branch const*>(at_)->first : nullptr;
   }
 
-  bool may_be_deep = false;  ///< false: no element stands too deep to be read again, so that nobody need look
-  pugi::xml_document store;
-  pugi::xml_node document = append_element(store, "document");  ///< what is saved: the root and its siblings
-  pugi::xml_node unplaced = append_element(store, "unplaced");  ///< elements that nobody has appended yet
+  Place const* root_;
+  Place const* at_;
+  int level_ = 0;
+  bool is_leaving_ = false;
 };
 
 }  // namespace sivane::dom

@@ -4,38 +4,46 @@
 
 namespace sivane::dom {
 
+/// The parser has seen to it that no attribute is given twice.
 void TreeBuilder::start(char const* name, char const** attributes) {
   add_text();
-  parent_ = append_element(parent_, name);
-  for (; *attributes != nullptr; attributes += 2) append_attribute(parent_, attributes[0], attributes[1]);
+  Element& element = append_element(tree_, *parent_, name);
+  parent_ = &element;
+  Attribute** end = &element.attributes;
+  for (; *attributes != nullptr; attributes += 2) {
+    auto* const attribute = tree_.arena.make<Attribute>(tree_, tree_.arena.keep(attributes[0]));
+    attribute->value = tree_.arena.keep(attributes[1]);
+    attribute->is_attached = true;
+    *end = attribute;
+    end = &attribute->next;
+  }
 }
 
 void TreeBuilder::end() {
   add_text();
-  parent_ = parent_.parent();
+  parent_ = parent_->parent;
 }
 
-void TreeBuilder::instruction(char const* target, char const* data) {
-  check_memory(add(pugi::node_pi, data).set_name(target));
-}
+void TreeBuilder::instruction(char const* target, char const* data) { add(Kind::instruction, target, data); }
 
-pugi::xml_node TreeBuilder::add(pugi::xml_node_type type, char const* value) {
+void TreeBuilder::add(Kind kind, std::string_view name, std::string_view value) {
   add_text();
-  pugi::xml_node node = not_null(parent_.append_child(type));
-  check_memory(node.set_value(value));
-  return node;
+  add_leaf(kind, name, value);
+}
+
+void TreeBuilder::add_leaf(Kind kind, std::string_view name, std::string_view value) {
+  Arena& arena = tree_.arena;
+  append(*parent_, *arena.make<Leaf>(tree_, kind, arena.keep(name), arena.keep(value)));
 }
 
 /// Text is complete where something else follows. Blanks alone only lay out the document.
 void TreeBuilder::add_text() {
-  if (text_.find_first_not_of(" \t\r\n") != std::string::npos) {
-    check_memory(not_null(parent_.append_child(pugi::node_pcdata)).set_value(text_.c_str()));
-  }
+  if (text_.find_first_not_of(" \t\r\n") != std::string::npos) add_leaf(Kind::text, {}, text_);
   text_.clear();
 }
 
-void read(std::string_view text, Tree& tree) {
-  TreeBuilder builder(tree);
+void read(std::string_view text, DocumentNode& document) {
+  TreeBuilder builder(document);
   Parser(builder).parse_all(text);
 }
 

@@ -80,6 +80,8 @@ void expect_survival(std::string const& name) {
   dom::Document whole;
   table.SaveSection(whole.dom(), whole.make_root("it").get());
   with_every_refusal("loading", [&] { Table().Parse(static_cast<void*>(whole.root_node().get())); });
+  std::string const text = whole.save_string();
+  with_every_refusal("reading", [&] { dom::Document::load_string(text); });
   with_every_refusal("saving", [&] {
     dom::Document document;
     auto const root = document.make_root("it");
