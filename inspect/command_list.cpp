@@ -5,11 +5,13 @@
 #include "commands/dump.h"
 #include "commands/events.h"
 #include "commands/json.h"
+#include "commands/m3u.h"
 #include "commands/networks.h"
 #include "commands/programs.h"
 #include "commands/sections.h"
 #include "commands/services.h"
 #include "commands/xml.h"
+#include "commands/xmltv.h"
 
 namespace inspect {
 
@@ -23,6 +25,7 @@ std::unique_ptr<Command> make(Showing const& showing) {
 constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Input::xml};
 constexpr std::span<Input const> any = all_inputs;
 constexpr std::span<Input const> bytes = any.first(3);
+constexpr std::span<Input const> packets = any.first(2);
 
 constexpr Parsing strict = Parsing::strict, tolerant = Parsing::tolerant;
 
@@ -40,6 +43,9 @@ constexpr CommandRow rows[] = {
      tolerant, make<ProgramsCommand>},
     {"networks", "List networks, bouquets and CA systems with their names", bytes, tolerant,
      make<NetworksCommand>},
+    {"xmltv", "Write the events as an XMLTV document", bytes, tolerant, make<XmltvCommand>},
+    {"m3u", "Write the services as a playlist, in the order of channel numbers", packets, tolerant,
+     make<M3uCommand>},
 };
 
 }  // namespace

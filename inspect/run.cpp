@@ -75,7 +75,7 @@ ExitStatus run(Options const& options) {
   std::ostream out(&buffer);
   out.exceptions(std::ios::badbit);
   RunEnd end(options.seconds, [&out] { out.flush(); });
-  auto const command = options.command->make({out, buffer.is_terminal(), options.charset});
+  auto const command = options.command->make({out, buffer.is_terminal(), options.charset, options.source});
   command->set_parsing(options.parsing);
   if (options.changes) command->show_changes_alone();
   ExitStatus const status = read_all(options, *command, end);

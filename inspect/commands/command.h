@@ -34,6 +34,7 @@ struct Showing {
   std::ostream& out;
   bool is_terminal = false;               ///< a person may be looking at `out`
   sivane::charset::Options charset = {};  ///< how the texts of a broadcast become UTF-8
+  std::string source = {};                ///< as the user named it
 };
 
 /// What the program does with the sections of its input. It numbers them from 1, and reports and counts those

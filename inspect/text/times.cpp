@@ -15,6 +15,14 @@ std::string date_text(sivane::catalogue::Time time) {
   return text + clock_text(time - day);
 }
 
+std::string xmltv_text(sivane::catalogue::Time time) {
+  std::string text;
+  for (char const c : date_text(time)) {
+    if (c >= '0' && c <= '9') text += c;
+  }
+  return text + " +0000";
+}
+
 std::string clock_text(std::chrono::seconds duration) {
   std::chrono::hh_mm_ss const clock(duration);
   char text[64];
