@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 //
 // The snippets of docs/guide.md in one program, run over the stream that it is given.
+#include <sivane/catalogue/catalogue.h>
 #include <sivane/charset/charset.h>
 #include <sivane/dom/document.h>
 #include <sivane/dom/element_reader.h>
@@ -16,6 +17,7 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <variant>
 #include <vector>
 
 // Sections from buffers
@@ -301,6 +303,38 @@ void print_scrambling(sivane::DescriptorCa const& ca) {
   std::cout << "scrambled by " << sivane::get_ca_system_id(ca.sys_id) << '\n';
 }
 
+// What a stream has
+
+class NowOn final : public sivane::DemuxPush {
+ public:
+  NowOn() {
+    set_reassembly(sivane::Reassembly::every_section);
+    for (int const table_id : {0x42, 0x46}) add_psi_handler(0x0011, table_id);
+    for (int const table_id : {0x4E, 0x4F}) add_psi_handler(0x0012, table_id);
+  }
+  void print() const {
+    for (auto const& [key, service] : catalogue.services()) {
+      auto const* const event = catalogue.present_event(key);
+      std::cout << service.name << ": " << (event == nullptr ? "?" : event->second.title()) << '\n';
+    }
+  }
+  sivane::catalogue::Catalogue catalogue;
+
+ protected:
+  void on_psi_section(int pid, int, int, unsigned char const* section) override try {
+    catalogue.add(pid, section, static_cast<std::size_t>(sivane::section_size(section)));
+  } catch (sivane::error const&) {  // a broken section changes nothing, and comes again
+  }
+};
+
+void print_news(sivane::catalogue::Changes const& changes, sivane::catalogue::Catalogue const& catalogue) {
+  for (sivane::catalogue::Change const& change : changes) {
+    auto const* const key = std::get_if<sivane::catalogue::EventKey>(&change.key);
+    if (key == nullptr || change.action == sivane::catalogue::Change::Action::removed) continue;
+    std::cout << key->service.service << " will show " << catalogue.find(*key)->title() << '\n';
+  }
+}
+
 int main(int argc, char** argv) {
   std::ifstream file(argc > 1 ? argv[1] : "", std::ios::binary);
   std::vector<char> text{std::istreambuf_iterator<char>(file), {}};
@@ -318,16 +352,22 @@ int main(int argc, char** argv) {
   ServiceNames services;
   PresentEvents present;
   Events programme;
+  NowOn now;
   bool const whole =
       receiver.push_data(stream.data(), size) == 0 && events.push_data(stream.data(), size) == 0 &&
       tables.push_data(stream.data(), size) == 0 && services.push_data(stream.data(), size) == 0 &&
-      present.push_data(stream.data(), size) == 0 && programme.push_data(stream.data(), size) == 0;
+      present.push_data(stream.data(), size) == 0 && programme.push_data(stream.data(), size) == 0 &&
+      now.push_data(stream.data(), size) == 0;
   std::cout << receiver.program_maps << " program maps, " << events.sections << " event sections, "
             << tables.parsed << " versions of the services\n";
 
   print_section({0x00, 0xB0, 0x0D, 0x00});
   for (auto const& [id, name] : services.names) std::cout << "service " << id << ": " << name << '\n';
   for (auto const& [id, name] : present.names) std::cout << "now on " << id << ": " << name << '\n';
+
+  now.print();
+  auto const& events_now = now.catalogue.events();
+  print_news({{sivane::catalogue::Change::Action::added, events_now.begin()->first}}, now.catalogue);
 
   sivane::Pat pat;
   pat.program_infos.resize(2);
