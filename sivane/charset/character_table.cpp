@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 
 namespace sivane::charset {
 
@@ -85,7 +86,8 @@ CharacterTable const* table_of(int selector) {
 char small(char letter) { return static_cast<char>(std::tolower(static_cast<unsigned char>(letter))); }
 
 bool is_same_name(std::string_view left, std::string_view right) {
-  return std::ranges::equal(left, right, {}, small, small);
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [](char a, char b) { return small(a) == small(b); });
 }
 
 }  // namespace
@@ -108,9 +110,9 @@ CharacterTable const& default_table() { return *iso_6937; }
 
 CharacterTable const* find_table(std::string_view name) {
   auto const has_name = [name](CharacterTable const& table) { return is_same_name(table.name, name); };
-  auto const table = std::ranges::find_if(tables, has_name);
+  auto const* const table = std::find_if(std::begin(tables), std::end(tables), has_name);
   if (table != std::end(tables)) return table;
-  auto const latin_table = std::ranges::find_if(latin_tables, has_name);
+  auto const* const latin_table = std::find_if(std::begin(latin_tables), std::end(latin_tables), has_name);
   return latin_table != std::end(latin_tables) ? latin_table : nullptr;
 }
 

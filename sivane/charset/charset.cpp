@@ -60,15 +60,16 @@ class Converter::Tables {
   Decoder& decoder(CharacterTable const* selected) {
     if (overrule_) return *overrule_;
     if (selected == nullptr) return default_;
-    auto const found =
-        std::ranges::find(selected_, selected->name, [](Decoder const& d) { return d.table().name; });
+    auto const found = std::find_if(selected_.begin(), selected_.end(), [selected](Decoder const& d) {
+      return d.table().name == selected->name;
+    });
     return found != selected_.end() ? *found : selected_.emplace_back(*selected);
   }
 
   std::string utf8(Decoder& decoder, std::string_view text) const {
     std::string converted;
     if (decoder.table().has_ascii) {
-      auto const end = std::ranges::find_if_not(text, is_printable_ascii);
+      auto const end = std::find_if_not(text.begin(), text.end(), is_printable_ascii);
       converted.assign(text.begin(), end);
       text.remove_prefix(converted.size());
     }

@@ -73,7 +73,7 @@ std::u32string Decoder::decode(std::string_view text) {
   if (!iconv_)
     return table_.name == std::string_view("UTF-8") ? from_utf8(text) : from_ascii(text, table_.stand_in);
   std::u32string characters = by_iconv(text);
-  if (table_.mistaken != 0) std::ranges::replace(characters, table_.mistaken, table_.meant);
+  if (table_.mistaken != 0) std::replace(characters.begin(), characters.end(), table_.mistaken, table_.meant);
   return characters;
 }
 
