@@ -44,8 +44,9 @@ bool matches(Key const& key, DescriptorBytes bytes, unsigned int private_data_sp
 
 std::unique_ptr<ExtendedDescriptor> build(DescriptorBytes bytes, unsigned int private_data_specifier,
                                           Malformed malformed) {
-  auto const row = std::ranges::find_if(
-      rows, [&](Row const& one) { return matches(one.key, bytes, private_data_specifier); });
+  auto const* const row = std::find_if(std::begin(rows), std::end(rows), [&](Row const& one) {
+    return matches(one.key, bytes, private_data_specifier);
+  });
   if (row == std::end(rows)) return nullptr;
   try {
     return row->make(bytes);
@@ -64,7 +65,7 @@ WireForm::WireForm(DescriptorGeneral const& general) {
   if (general.data.size() > most) raise({error::no_errorcode, "descriptor too long"});
   bytes_[0] = static_cast<unsigned char>(general.tag);
   bytes_[1] = static_cast<unsigned char>(general.data.size());
-  std::ranges::copy(general.data, bytes_ + head);
+  std::copy(general.data.begin(), general.data.end(), bytes_ + head);
 }
 
 }  // namespace extended
