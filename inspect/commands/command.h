@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "input/packet_counts.h"
+#include "input/packet_sink.h"
 #include "input/section.h"
 #include "tables/table_classes.h"
 
@@ -35,6 +36,7 @@ struct Showing {
   bool is_terminal = false;               ///< a person may be looking at `out`
   sivane::charset::Options charset = {};  ///< how the texts of a broadcast become UTF-8
   std::string source = {};                ///< as the user named it
+  bool as_json = false;                   ///< for a program, where the command has a choice
 };
 
 /// What the program does with the sections of its input. It numbers them from 1, and reports and counts those
@@ -56,6 +58,10 @@ class Command {
   /// Whether the packets of all PIDs are to be counted; `take_packets` gets them before `finish`.
   virtual bool wants_packets() const { return false; }
   virtual void take_packets(PacketCounts const&) {}
+  /// Takes the packets themselves in place of sections; null for commands that look at sections alone.
+  virtual PacketSink* packet_sink() { return nullptr; }
+  /// Whether the run ends with status 1 although no section failed; asked after `finish`.
+  virtual bool has_finding() const { return false; }
 
   int number() const { return number_; }
   int failures() const { return failures_; }

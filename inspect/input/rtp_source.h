@@ -16,6 +16,7 @@ class RtpSource final : public Source {
 
   std::size_t read(std::span<unsigned char> buffer) override;
   std::string const& name() const override { return name_; }
+  bool is_live() const override { return true; }
   void report_losses() const override;
 
  private:

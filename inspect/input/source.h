@@ -32,6 +32,8 @@ class Source {
   virtual std::size_t read(std::span<unsigned char> buffer) = 0;
   /// Bytes that there are in all; -1 where nobody knows.
   virtual long long size() const { return -1; }
+  /// Whether it gives bytes at the moment they are sent.
+  virtual bool is_live() const { return false; }
   /// How lines call it.
   virtual std::string const& name() const = 0;
   /// Tells, after the last read, what was lost on the way here.

@@ -5,12 +5,14 @@
 #include <sivane/demux/packet_finder.h>
 
 #include <algorithm>
+#include <chrono>
 #include <exception>
 #include <vector>
 
 #include "console.h"
 #include "input/command_host.h"
 #include "input/losses.h"
+#include "input/packet_sink.h"
 #include "input/progress.h"
 #include "input/skipped_bytes.h"
 
@@ -18,14 +20,23 @@ namespace inspect {
 
 namespace {
 
-using Host = CommandHost<sivane::DemuxPush>;
+/// Gives the sections of packets to a command.
+class Host final : public CommandHost<sivane::DemuxPush>, public PacketSink {
+ public:
+  using CommandHost::CommandHost;
+  void take(sivane::PacketRun const& run) override { push_packets(run); }
+};
 
 class Finder final : public sivane::PacketFinder {
  public:
-  Finder(Options const& options, sivane::DemuxPush& host) : wanted_(options.packets), host_(host) {}
+  Finder(Options const& options, PacketSink& sink) : wanted_(options.packets), sink_(sink) {}
 
   bool has_enough() const { return wanted_ && pushed_ >= *wanted_; }
   void tell_skipped() { skipped_.tell_sum(); }
+  void note_arrival() {
+    auto const now = std::chrono::system_clock::now().time_since_epoch();
+    sink_.take_arrival(std::chrono::duration_cast<std::chrono::nanoseconds>(now).count());
+  }
 
  private:
   void on_packets(sivane::PacketRun const& run) override {
@@ -33,16 +44,26 @@ class Finder final : public sivane::PacketFinder {
     sivane::PacketRun wanted = run;
     if (wanted_) wanted.count = static_cast<int>(std::min<long long>(run.count, *wanted_ - pushed_));
     pushed_ += wanted.count;
-    host_.push_packets(wanted);
+    if (told_errors_ != sync_byte_errors)
+      tell_sink(run.offset, 0);  // where bytes were lost, none are skipped
+    sink_.take(wanted);
   }
 
   void on_skipped(std::uint64_t offset, std::uint64_t size) override {
-    if (!has_enough()) skipped_.add(offset, size);
+    if (has_enough()) return;
+    skipped_.add(offset, size);
+    tell_sink(offset, size);
+  }
+
+  void tell_sink(std::uint64_t offset, std::uint64_t size) {
+    told_errors_ = sync_byte_errors;
+    sink_.take_skipped({offset, size, sync_byte_errors, sync_losses});
   }
 
   std::optional<long long> wanted_;
-  sivane::DemuxPush& host_;
+  PacketSink& sink_;
   long long pushed_ = 0;
+  std::uint64_t told_errors_ = 0;
   SkippedBytes skipped_;
 };
 
@@ -62,6 +83,7 @@ std::exception_ptr push_all(Source& source, Options const& options, Finder& find
     std::size_t const size = source.read(block);
     if (size == 0) break;
     progress.add(size);
+    if (source.is_live()) finder.note_arrival();
     finder.push(block.data(), size);
   }
   return nullptr;
@@ -79,9 +101,16 @@ std::exception_ptr find_packets(Source& source, Options const& options, Finder& 
   return fault;
 }
 
+/// For a command that looks at the packets by itself.
+void read_packets_for(PacketSink& sink, Source& source, Options const& options) {
+  Finder finder(options, sink);
+  if (std::exception_ptr const fault = find_packets(source, options, finder)) std::rethrow_exception(fault);
+}
+
 }  // namespace
 
 void read_ts(Source& source, Options const& options, Command& command) {
+  if (PacketSink* const sink = command.packet_sink()) return read_packets_for(*sink, source, options);
   Host host(options, command);
   if (command.wants_packets()) host.count_all();
   Finder finder(options, host);

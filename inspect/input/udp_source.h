@@ -16,6 +16,7 @@ class UdpSource final : public Source {
 
   std::size_t read(std::span<unsigned char> buffer) override;
   std::string const& name() const override { return name_; }
+  bool is_live() const override { return true; }
   /// One datagram; 0 where none came in time, or at the end of the run.
   std::size_t receive(std::span<unsigned char> buffer, std::chrono::milliseconds longest);
 
