@@ -56,6 +56,7 @@ void add_command(CLI::App& app, CommandRow const& row, Arguments& arguments) {
       ->type_name("KIND")
       ->capture_default_str();
   add_options_of_streams(command, arguments);
+  if (row.has_json) command.add_flag("--json", arguments.as_json, "One JSON object, for a program (check)");
 }
 
 std::vector<std::string> command_names() {

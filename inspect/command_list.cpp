@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include "command_list.h"
 
+#include "commands/check.h"
 #include "commands/dump.h"
 #include "commands/events.h"
 #include "commands/json.h"
@@ -26,6 +27,7 @@ constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Inpu
 constexpr std::span<Input const> any = all_inputs;
 constexpr std::span<Input const> bytes = any.first(3);
 constexpr std::span<Input const> packets = any.first(2);
+constexpr std::span<Input const> stream = any.first(1);
 
 constexpr Parsing strict = Parsing::strict, tolerant = Parsing::tolerant;
 
@@ -46,6 +48,8 @@ constexpr CommandRow rows[] = {
     {"xmltv", "Write the events as an XMLTV document", bytes, tolerant, make<XmltvCommand>},
     {"m3u", "Write the services as a playlist, in the order of channel numbers", packets, tolerant,
      make<M3uCommand>},
+    {"check", "Hold the stream to ETSI TR 101 290 and more, and list what is violated", stream, tolerant,
+     make<CheckCommand>, CommandRow::Json::offered},
 };
 
 }  // namespace

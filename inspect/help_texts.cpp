@@ -36,7 +36,9 @@ constexpr HelpRow sources[] = {
 
 constexpr HelpRow ends[] = {
     {"0", "all is well"},
-    {"1", "a section failed; each is a line on standard error and stops nothing"},
+    {"1",
+     "a section failed; each is a line on standard error and stops nothing; or check found something of "
+     "priority 1 or 2"},
     {"2", "wrong usage, or the input cannot be read; a line on standard error says why"},
 };
 

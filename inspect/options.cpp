@@ -105,6 +105,7 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.follow = arguments.follow;
   options.changes = arguments.changes;
   options.quiet = arguments.quiet;
+  options.as_json = arguments.as_json;
   options.source = arguments.source;
   options.charset = charset_of(arguments);
   options.parsing = parsing_of(row, arguments);

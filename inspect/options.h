@@ -26,6 +26,7 @@ struct Arguments {
   bool strict = false;
   std::string charset;
   std::string charset_always;
+  bool as_json = false;
   std::string source;
 };
 
@@ -41,6 +42,7 @@ struct Options {
   bool changes = false;
   bool quiet = false;
   sivane::charset::Options charset;
+  bool as_json = false;
   std::string source;
 };
 

@@ -46,10 +46,13 @@ ExitStatus read_to_end(Read read, Command& command) {
   }
   clear_progress();
   command.finish();
-  return status == all_well && command.failures() > 0 ? section_failed : status;
+  bool const has_failed = command.failures() > 0 || command.has_finding();
+  return status == all_well && has_failed ? section_failed : status;
 }
 
 ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
+  if (is_dvb(options.source) && command.packet_sink() != nullptr)
+    throw NoInput(std::string(options.command->name) + " needs all packets, and an adapter gives sections");
   if (is_dvb(options.source)) return read_to_end([&] { read_dvb(options, command, end); }, command);
   auto const source = open_source(options.source, options.follow, end);
   ExitStatus const status = read_to_end([&] { read_input(*source, options, command); }, command);
@@ -75,7 +78,8 @@ ExitStatus run(Options const& options) {
   std::ostream out(&buffer);
   out.exceptions(std::ios::badbit);
   RunEnd end(options.seconds, [&out] { out.flush(); });
-  auto const command = options.command->make({out, buffer.is_terminal(), options.charset, options.source});
+  auto const command =
+      options.command->make({out, buffer.is_terminal(), options.charset, options.source, options.as_json});
   command->set_parsing(options.parsing);
   if (options.changes) command->show_changes_alone();
   ExitStatus const status = read_all(options, *command, end);

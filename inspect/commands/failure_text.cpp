@@ -22,19 +22,6 @@ std::string table_text(Section const& section, std::string_view class_name) {
   return section.bytes.empty() ? name : name + ' ' + c_hexadecimal(section.table_id(), 1);
 }
 
-/// The library's own text, or what its code means where it gives none.
-std::string reason_text(int code, std::string const& what) {
-  if (!what.empty()) return what;
-  switch (code) {
-    case sivane::error::item_length_error:
-      return "the payload is no whole number of entries";
-    case sivane::error::syntax_error:
-      return "a bit of the header is wrong, or a loop does not end where it should";
-    default:
-      return "error " + std::to_string(code);
-  }
-}
-
 /// "PID 0x0010, NIT 0x40, byte 37, at 1,274,120: ", as far as it is known.
 std::string place_text(Section const& section, std::string_view class_name, int offset) {
   std::string text;
@@ -47,6 +34,18 @@ std::string place_text(Section const& section, std::string_view class_name, int 
 }
 
 }  // namespace
+
+std::string reason_text(int code, std::string const& what) {
+  if (!what.empty()) return what;
+  switch (code) {
+    case sivane::error::item_length_error:
+      return "the payload is no whole number of entries";
+    case sivane::error::syntax_error:
+      return "a bit of the header is wrong, or a loop does not end where it should";
+    default:
+      return "error " + std::to_string(code);
+  }
+}
 
 std::string failure_text(Section const& section, Failure const& failure) {
   return place_text(section, failure.class_name, failure.offset) + reason_text(failure.code, failure.what);

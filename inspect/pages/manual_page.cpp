@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <algorithm>
+#include <set>
 #include <string_view>
 
 #include "help_texts.h"
@@ -40,12 +41,19 @@ std::string heading(std::string_view title) {
   return ".SH " + upper + "\n";
 }
 
-/// Options are the same for all commands.
-std::string options_of(CommandPage const& command) {
+std::string option_item(OptionRow const& option) {
+  std::string const letter = option.letter.empty() ? "" : option.letter + ", ";
+  return item(letter + option.word + (option.value.empty() ? "" : " " + option.value), option.help);
+}
+
+/// Those that all commands have, and then those of some.
+std::string options_of(std::vector<CommandPage> const& commands) {
   std::string text;
-  for (OptionRow const& option : command.options) {
-    std::string const letter = option.letter.empty() ? "" : option.letter + ", ";
-    text += item(letter + option.word + (option.value.empty() ? "" : " " + option.value), option.help);
+  std::set<std::string> told;
+  for (CommandPage const& command : commands) {
+    for (OptionRow const& option : command.options) {
+      if (told.insert(option.word).second) text += option_item(option);
+    }
   }
   return text;
 }
@@ -63,7 +71,7 @@ std::string manual_page() {
           "Reads a transport stream, or sections that were saved of one, and shows its tables.\n" +
           heading("Commands");
   for (CommandPage const& command : commands) page += item(command.name, command.help);
-  page += heading("Options") + options_of(commands.front());
+  page += heading("Options") + options_of(commands);
   for (HelpList const& list : help_lists()) {
     page += heading(list.title);
     for (auto const& [word, meaning] : list.rows) page += item(word, meaning);
@@ -72,6 +80,7 @@ std::string manual_page() {
       heading("Examples") + item("sivane-inspect services recording.ts", "The services of a recording.") +
       item("sivane-inspect dump --handle 0x11:0x42 udp://@239.1.2.3:5000",
            "The service descriptions of a stream on the network, as they come.") +
+      item("sivane-inspect check --json recording.ts", "What is wrong with a recording, for a program.") +
       item("sivane-inspect events --seconds 30 rtp://@239.1.2.3:5004", "The events of the next half minute.");
   return page;
 }

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <iosfwd>
+
+#include "check/stream_check.h"
+
+namespace inspect {
+
+/// The measures in the order of their numbers, for a person.
+void print_check(std::ostream& out, StreamCheck const& check);
+/// The same as one JSON object.
+void print_check_as_json(std::ostream& out, StreamCheck const& check);
+
+}  // namespace inspect

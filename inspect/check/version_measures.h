@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <array>
+#include <map>
+
+#include "check/sub_table.h"
+
+namespace inspect {
+
+/// Beyond TR 101 290: versions that go back or stay where content changes, and sections and segments that a
+/// table lacks.
+class VersionMeasures {
+ public:
+  explicit VersionMeasures(Findings& findings) : findings_(findings) {}
+
+  /// True if a new version begins with the section.
+  bool take(Observation const& observation);
+  void finish();
+
+ private:
+  struct Version {
+    int number = -1;
+    int last_section = 0;
+    Place first;
+    std::map<int, std::uint64_t> sections;  // how often each came
+    std::map<int, int> segments;            // of a schedule: the last section of each
+  };
+
+  void begin_version(Version& version, Observation const& observation);
+  void judge(SubTable const& table, Version const& version);
+  void judge_segments(SubTable const& table, Version const& version);
+  bool is_wanted(SubTable const& table, Version const& version, int section) const;
+
+  Findings& findings_;
+  std::map<SubTable, Version> versions_;
+};
+
+}  // namespace inspect
