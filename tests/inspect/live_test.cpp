@@ -3,18 +3,13 @@
 //
 // Inputs that come bit by bit: pipes, files that grow, the network. Network tests use the loopback address
 // alone.
-#include <arpa/inet.h>
 #include <gtest/gtest.h>
 #include <packet_writer.h>
 #include <signal.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
-#include <cerrno>
-#include <chrono>
 #include <fstream>
-#include <thread>
 
+#include "loopback_sender.h"
 #include "run_inspect.h"
 #include "temporary_folder.h"
 #include "tool_process.h"
@@ -32,42 +27,6 @@ Bytes stream_of(int id) {
   writer.null_packets(19);
   return writer.stream();
 }
-
-/// Sends to the tool, once it listens: until then the system says that nobody does.
-class Sender {
- public:
-  Sender() : socket_(socket(AF_INET, SOCK_DGRAM, 0)) {
-    int const probe = socket(AF_INET, SOCK_DGRAM, 0);
-    address_.sin_family = AF_INET;
-    address_.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address_;
-    EXPECT_EQ(bind(probe, reinterpret_cast<sockaddr*>(&address_), size), 0);
-    getsockname(probe, reinterpret_cast<sockaddr*>(&address_), &size);
-    close(probe);
-    EXPECT_EQ(connect(socket_, reinterpret_cast<sockaddr*>(&address_), size), 0);
-  }
-  Sender(Sender const&) = delete;
-  Sender& operator=(Sender const&) = delete;
-  ~Sender() { close(socket_); }
-
-  std::string place() const { return "127.0.0.1:" + std::to_string(ntohs(address_.sin_port)); }
-  void send(Bytes const& datagram) {
-    EXPECT_EQ(::send(socket_, datagram.data(), datagram.size(), 0), std::ssize(datagram));
-  }
-  void wait_for_listener() {
-    for (int i = 0; i < 1000; ++i) {
-      ::send(socket_, "", 0, 0);
-      std::this_thread::sleep_for(std::chrono::milliseconds(10));
-      char none;
-      if (recv(socket_, &none, 1, MSG_DONTWAIT) < 0 && errno != ECONNREFUSED) return;
-    }
-    FAIL() << "nobody listens";
-  }
-
- private:
-  int socket_;
-  sockaddr_in address_ = {};
-};
 
 /// Seven packets, as most senders do. The first is a PAT; both it and the packet have the number.
 Bytes datagram(int number) {
@@ -130,7 +89,7 @@ TEST(InspectLive, FollowsAFileThatGrows) {
 }
 
 TEST(InspectLive, TellsWhatTheNetworkLost) {
-  Sender sender;
+  LoopbackSender sender;
   ToolProcess tool("sections --packets 42 udp://@" + sender.place());
   sender.wait_for_listener();
   for (int const number : {0, 1, 3, 3, 5, 4}) sender.send(datagram(number));
@@ -140,7 +99,7 @@ TEST(InspectLive, TellsWhatTheNetworkLost) {
 }
 
 TEST(InspectLive, PutsRtpBackInOrder) {
-  Sender sender;
+  LoopbackSender sender;
   ToolProcess tool("sections --packets 42 rtp://" + sender.place());
   sender.wait_for_listener();
   for (int const number : {0, 2, 1, 1, 3, 6, 4}) {
