@@ -61,7 +61,9 @@ class SIVANE_API Catalogue {
  public:
   /// Throws `std::invalid_argument` for a table of characters that is not known.
   explicit Catalogue(Options const& options = {});
+  /// Takes what the other knows; that may only be destroyed or assigned to.
   Catalogue(Catalogue&&) noexcept;
+  /// The same.
   Catalogue& operator=(Catalogue&&) noexcept;
   ~Catalogue();
 

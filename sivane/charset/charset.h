@@ -37,7 +37,9 @@ class SIVANE_API Converter {
   /// Throws `std::invalid_argument` where iconv does not know a table of the options, and `std::bad_alloc`.
   explicit Converter(Options options = {});
   ~Converter();
+  /// Takes the tables that are open.
   Converter(Converter&& other) noexcept;
+  /// The same.
   Converter& operator=(Converter&& other) noexcept;
 
   /// A text with the selector that it dropped. No bytes are a failure: throws `std::bad_alloc`, or

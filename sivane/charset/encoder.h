@@ -19,7 +19,9 @@ class SIVANE_API Encoder {
   /// `name` as iconv knows it. Throws `std::invalid_argument` where it does not, and `std::bad_alloc`.
   explicit Encoder(std::string const& name);
   ~Encoder();
+  /// Takes what is open.
   Encoder(Encoder&& other) noexcept;
+  /// The same.
   Encoder& operator=(Encoder&& other) noexcept;
 
   /// "?" stands for a character that the encoding does not have, and for a byte that is no UTF-8.

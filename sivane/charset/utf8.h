@@ -14,7 +14,7 @@ namespace sivane::charset {
 struct Utf8 {
   char32_t character;  ///< the byte where it is not valid
   std::size_t size;    ///< bytes: 1 to 4; 1 where it is not valid
-  bool is_valid;
+  bool is_valid;       ///< whether it is a character
 };
 
 /// `text` is not empty. Overlong forms, surrogates and what lies above U+10FFFF are not valid (RFC 3629).
