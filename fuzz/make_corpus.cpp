@@ -273,6 +273,31 @@ void write_texts(fs::path const& folder) {
   }
 }
 
+/// Sections that a catalogue takes, each behind its PID and length, under three limits of memory.
+void write_catalogue(fs::path const& folder) {
+  std::string const texts[] = {
+      "00 B( 0002 C1 00 00 0000 E010 0007 E030 crc )",
+      "01 B( FFFF C1 00 00 09[ 0500 E1F5 ] crc )",
+      "02 B( 0007 C1 00 00 E100 F( 09[ 0500 E1F5 ] ) 1B E101 F() 06 E102 F( 52[ 31 ] 6A[ 00 ] ) crc )",
+      "40 F( 0003 C1 00 00 F( 40[ \"N\" ] ) F( 0002 0001 F( 5F[ 00000028 ] 83[ 0007 FC09 ] "
+      "43[ 01172750 0192 A1 02750003 ] 7F[ 04 01 0002 ] ) ) crc )",
+      "4A F( 0003 C1 00 00 F( 47[ \"B\" ] ) F( 0002 0001 F( 09[ 0100 E000 ] ) ) crc )",
+      "42 F( 0002 C1 00 00 0001 FF 0007 FD 9( 48[ 01 [\"P\"] [\"N\"] ] 53[ 0500 ] ) crc )",
+      "4E F( 0007 C1 00 01 0002 0001 01 4E 0001 E8A8 180000 010000 80( 4D[ \"eng\" [\"a\"] [] ] ) crc )",
+      "50 F( 0007 C1 00 08 0002 0001 00 50 0001 E8A8 180000 010000 0( 4E[ 00 \"eng\" [] [\"b\"] ] ) crc )",
+      "50 F( 0007 C3 08 08 0002 0001 08 50 0002 E8A8 190000 010000 0( 54[ 14 2A ] 55[ \"DEU\" 09 ] ) crc )",
+      "70 7( E8A8 200000 )",
+      "71 7( 0002 0001 0007 0001 01 )"};
+  for (int const memory : {0x10, 0x40, 0xFF}) {
+    Bytes input = {static_cast<unsigned char>(memory)};
+    for (std::string const& text : texts) {
+      Bytes const section = sivane::testing::assemble(text);
+      input = input + Bytes{1, static_cast<unsigned char>(section.size())} + section;
+    }
+    write(folder / ("tables-" + std::to_string(memory)), input);
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -286,5 +311,6 @@ int main(int argc, char** argv) {
   write_dom(corpora / "dom");
   write_records(corpora / "records");
   write_texts(corpora / "texts");
+  write_catalogue(corpora / "catalogue");
   return 0;
 }

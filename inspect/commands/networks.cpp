@@ -83,7 +83,7 @@ std::set<int> all_ca_systems(Catalogue const& catalogue) {
 }  // namespace
 
 void NetworksCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x40, 0x47, 0x43, 0x44, 0x5A, 0x09, 0x53});  // names, delivery systems, CA
+  options.build_only({0x40, 0x47, 0x43, 0x44, 0x5A, 0x79, 0x7F, 0x09, 0x53});  // names, delivery systems, CA
 }
 
 bool NetworksCommand::print(Catalogue const& catalogue, std::ostream& out) {

@@ -118,7 +118,7 @@ bool is_listed(Event const& event) { return event.start && !event.title().empty(
 
 void XmltvCommand::choose_tags(sivane::ParseOptions& options) const {
   // service, short and extended event, content, parental rating, private data specifier, logical channel
-  options.build_only({0x48, 0x4D, 0x4E, 0x54, 0x55, 0x5F, 0x83});
+  options.build_only({0x48, 0x4D, 0x4E, 0x54, 0x55, 0x5F, 0x83, 0x87});
 }
 
 bool XmltvCommand::print(Catalogue const& catalogue, std::ostream& out) {

@@ -17,13 +17,36 @@ using sivane::catalogue::Delivery;
 constexpr int digits_of_frequencies = 9;  // as many as a descriptor has
 constexpr double mega = 1e6, giga = 1e9;
 
-void write_satellite(std::ostream& text, Delivery const& delivery) {
+/// What S2 adds to the satellite's own descriptor.
+void write_input(std::ostream& text, Delivery const& delivery) {
+  if (delivery.input_stream >= 0) text << ", input stream " << delivery.input_stream;
+  if (delivery.scrambling_sequence >= 0) text << ", scrambling sequence " << delivery.scrambling_sequence;
+}
+
+void write_place(std::ostream& text, Delivery const& delivery) {
   sivane::DescriptorSatelliteDeliverySystem codes;
   codes.polarization = delivery.polarization;
-  text << "satellite " << delivery.orbital_position << (delivery.is_east ? " E, " : " W, ")
+  text << delivery.orbital_position << (delivery.is_east ? " E, " : " W, ")
        << delivery.frequency.value_or(0) / giga << " GHz " << codes.get_polarization_text() << ", "
-       << delivery.symbol_rate / mega << " Msymbol/s, FEC "
-       << sivane::DescriptorSatelliteDeliverySystem::get_FEC_inner_text(delivery.inner_code);
+       << delivery.symbol_rate / mega << " Msymbol/s";
+}
+
+void write_s2x(std::ostream& text, Delivery const& delivery) {
+  write_place(text << "DVB-S2X ", delivery);
+  write_input(text, delivery);
+}
+
+/// T2 and C2, whose streams are in pipes.
+void write_pipe(std::ostream& text, char const* system, Delivery const& delivery) {
+  text << system;
+  if (delivery.frequency) text << ' ' << *delivery.frequency / mega << " MHz";
+  text << ", PLP " << delivery.plp;
+  if (delivery.bandwidth > 0) text << ", " << delivery.bandwidth / mega << " MHz wide";
+}
+
+void write_satellite(std::ostream& text, Delivery const& delivery) {
+  write_place(text << "satellite ", delivery);
+  text << ", FEC " << sivane::DescriptorSatelliteDeliverySystem::get_FEC_inner_text(delivery.inner_code);
 }
 
 void write_cable(std::ostream& text, Delivery const& delivery) {
@@ -58,6 +81,18 @@ std::string delivery_text(Delivery const& delivery) {
       break;
     case Delivery::System::terrestrial:
       write_terrestrial(text, delivery);
+      break;
+    case Delivery::System::satellite_s2:
+      write_input(text << "DVB-S2", delivery);
+      break;
+    case Delivery::System::satellite_s2x:
+      write_s2x(text, delivery);
+      break;
+    case Delivery::System::terrestrial_t2:
+      write_pipe(text, "DVB-T2", delivery);
+      break;
+    case Delivery::System::cable_c2:
+      write_pipe(text, "DVB-C2", delivery);
       break;
   }
   return text.str();

@@ -14,8 +14,8 @@ namespace sivane::catalogue {
 /// Where and how a transport stream is sent, by a delivery system descriptor (ETSI EN 300 468, 6.2.13). What
 /// its system does not have stays 0.
 struct Delivery {
-  /// The descriptor that tells it.
-  enum class System { satellite, cable, terrestrial };
+  /// The descriptor that tells it. Those of S2 complete the one of the satellite.
+  enum class System { satellite, cable, terrestrial, satellite_s2, satellite_s2x, terrestrial_t2, cable_c2 };
 
   System system = System::satellite;  ///< by the descriptor
   std::optional<double> frequency;    ///< in Hz; none where a list of frequencies tells
@@ -24,13 +24,16 @@ struct Delivery {
   double orbital_position = 0;        ///< in degrees; satellite
   bool is_east = false;               ///< of Greenwich; satellite
   int polarization = 0;               ///< 2 bits, as coded; satellite
-  int modulation = 0;  ///< as coded: satellite 5 bits, cable 8 bits, terrestrial the constellation's 2
-  int inner_code = 0;  ///< as coded: FEC_inner of 4 bits, terrestrial code_rate_HP_stream of 3
+  int modulation = 0;     ///< as coded: satellite 5 bits, cable 8 bits, terrestrial the constellation's 2
+  int inner_code = 0;     ///< as coded: FEC_inner of 4 bits, terrestrial code_rate_HP_stream of 3
+  int plp = -1;           ///< physical layer pipe of T2 and C2, 8 bits
+  int input_stream = -1;  ///< input_stream_identifier of S2 and S2X, 8 bits; -1 where none is given
+  int scrambling_sequence = -1;  ///< scrambling_sequence_index of S2 and S2X, 18 bits; -1 where none is given
 
   /// The members, as they are compared.
   auto tied() const {
     return std::tie(system, frequency, symbol_rate, bandwidth, orbital_position, is_east, polarization,
-                    modulation, inner_code);
+                    modulation, inner_code, plp, input_stream, scrambling_sequence);
   }
 };
 

@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/catalogue/network_reading.h>
 #include <sivane/catalogue/values.h>
+#include <sivane/descriptors/extended/extended.h>
 
 namespace sivane::catalogue {
 
@@ -48,6 +49,64 @@ Delivery delivery_of(DescriptorTerrestrialDeliverySystem const& descriptor) {
   return delivery;
 }
 
+/// What S2 and S2X have in common.
+template <class Descriptor>
+void read_input(Descriptor const& descriptor, Delivery& delivery) {
+  if (descriptor.multiple_input_stream_flag) delivery.input_stream = descriptor.input_stream_identifier;
+  if (descriptor.scrambling_sequence_selector) {
+    delivery.scrambling_sequence = descriptor.scrambling_sequence_index;
+  }
+}
+
+Delivery delivery_of(DescriptorS2SatelliteDeliverySystem const& descriptor) {
+  Delivery delivery;
+  delivery.system = Delivery::System::satellite_s2;
+  read_input(descriptor, delivery);
+  return delivery;
+}
+
+Delivery delivery_of(DescriptorS2XSatelliteDeliverySystem const& descriptor) {
+  Delivery delivery;
+  delivery.system = Delivery::System::satellite_s2x;
+  delivery.frequency = descriptor.frequency * giga;
+  delivery.symbol_rate = descriptor.symbol_rate * mega;
+  delivery.orbital_position = descriptor.orbital_position;
+  delivery.is_east = descriptor.west_east_flag != 0;
+  delivery.polarization = descriptor.polarization;
+  read_input(descriptor, delivery);
+  return delivery;
+}
+
+/// Of several frequencies none is the stream's own.
+Delivery delivery_of(DescriptorT2DeliverySystem const& descriptor) {
+  constexpr double unit = 10;
+  Delivery delivery;
+  delivery.system = Delivery::System::terrestrial_t2;
+  delivery.plp = descriptor.plp_id;
+  if (descriptor.has_parameters) {
+    delivery.bandwidth = DescriptorT2DeliverySystem::get_bandwidth(descriptor.bandwidth) * mega;
+  }
+  if (descriptor.cells.size() == 1 && descriptor.cells[0].centre_frequency.size() == 1) {
+    delivery.frequency = static_cast<double>(descriptor.cells[0].centre_frequency[0]) * unit;
+  }
+  return delivery;
+}
+
+Delivery delivery_of(DescriptorC2DeliverySystem const& descriptor) {
+  Delivery delivery;
+  delivery.system = Delivery::System::cable_c2;
+  delivery.plp = descriptor.plp_id;
+  delivery.frequency = descriptor.C2_System_tuning_frequency;
+  return delivery;
+}
+
+/// One that is no set's own; nothing where it is of another class, or broken.
+template <class Descriptor>
+void append_if(DescriptorGeneral const& bytes, std::vector<Delivery>& deliveries) {
+  auto const descriptor = extended::as<Descriptor>(bytes, extended::Malformed::is_nothing);
+  if (descriptor) deliveries.push_back(delivery_of(*descriptor));
+}
+
 template <class Descriptors>
 void append(Descriptors const& descriptors, std::vector<Delivery>& deliveries) {
   for (auto const& descriptor : descriptors) deliveries.push_back(delivery_of(descriptor));
@@ -60,6 +119,12 @@ std::vector<Delivery> deliveries_of(DescriptorSet const& entry) {
   append(entry.get_satellite_delivery_system_descriptors(), deliveries);
   append(entry.get_cable_delivery_system_descriptors(), deliveries);
   append(entry.get_terrestrial_delivery_system_descriptors(), deliveries);
+  for (DescriptorGeneral const& bytes : entry.get_general_descriptors()) {
+    append_if<DescriptorS2SatelliteDeliverySystem>(bytes, deliveries);
+    append_if<DescriptorS2XSatelliteDeliverySystem>(bytes, deliveries);
+    append_if<DescriptorT2DeliverySystem>(bytes, deliveries);
+    append_if<DescriptorC2DeliverySystem>(bytes, deliveries);
+  }
   return deliveries;
 }
 

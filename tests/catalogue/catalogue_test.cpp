@@ -94,6 +94,21 @@ TEST(Catalogue, KnowsWhereStreamsAreSent) {
   EXPECT_EQ(stream.services.at(0).type, 1);
 }
 
+TEST(Catalogue, KnowsTheSecondGenerationOfDelivery) {
+  Catalogue catalogue;
+  add(catalogue,
+      nit("40", "7F[ 04 05 0001 0100 0009 03041880 00 ] 79[ C0 000007 03 ] 7F[ 0D 06 01 149E7A80 00 ]"));
+  auto const& deliveries = catalogue.network_streams().at({3, {1, 2}}).deliveries;
+  ASSERT_EQ(deliveries.size(), 3u);
+  EXPECT_EQ(deliveries[0].plp, 5);
+  EXPECT_DOUBLE_EQ(deliveries[0].bandwidth, 8e6);
+  EXPECT_DOUBLE_EQ(*deliveries[0].frequency, 506e6);
+  EXPECT_EQ(deliveries[1].scrambling_sequence, 7);
+  EXPECT_EQ(deliveries[1].input_stream, 3);
+  EXPECT_EQ(deliveries[2].plp, 6);
+  EXPECT_DOUBLE_EQ(*deliveries[2].frequency, 0x149E7A80);
+}
+
 TEST(Catalogue, NumbersChannelsByTheSpecifierInForce) {
   auto const number = [](std::string const& descriptors) {
     Catalogue catalogue;
@@ -103,10 +118,12 @@ TEST(Catalogue, NumbersChannelsByTheSpecifierInForce) {
     return found ? (found->is_visible ? found->number : -found->number) : 0;
   };
   EXPECT_EQ(number("5F[ 00000028 ] 83[ 0006 FC01 0007 FFFF ]"), 0x3FF);
-  EXPECT_EQ(number("5F[ 00000028 ] 83[ 0007 7C02 00 ]"), -2);
+  EXPECT_EQ(number("5F[ 00000028 ] 83[ 0007 7C02 ]"), -2);
   EXPECT_EQ(number("5F[ 00000029 ] 83[ 0007 FC02 ]"), 0x3C02);
   EXPECT_EQ(number("5F[ 0000002A ] 83[ 0007 FC02 ]"), 0);
   EXPECT_EQ(number("83[ 0007 FC02 ]"), 0);
+  EXPECT_EQ(number("5F[ 0000002A ] 83[ 0007 FC02 ] 5F[ 00000028 ] 83[ 0007 FC04 ]"), 4);
+  EXPECT_EQ(number("5F[ 00000029 ] 87[ 01 [\"L\"] \"NOR\" [ 0007 FC05 ] ]"), 5);
 }
 
 TEST(Catalogue, TellsTheNamesAndStreamsOfBouquets) {
