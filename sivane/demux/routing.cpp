@@ -90,8 +90,7 @@ int DemuxPush::push_data(unsigned char const* data, int size) {
   next_offset_ = run.offset;
   int result = 0;
   for (int left = run.count; left > 0 && result == 0; --left, packet += run.stride) {
-    // A header is read once: it need not displace anything in the larger caches.
-    if (left > prefetched_packets) __builtin_prefetch(packet + prefetch_distance, 0, 0);
+    if (left > prefetched_packets) __builtin_prefetch(packet + prefetch_distance);
     begin_packet(run.stride);
     if (packet[0] != ts_sync_byte) {
       log_write(1, "TS sync byte not found: %02X", static_cast<unsigned int>(packet[0]));
