@@ -35,6 +35,7 @@ class RatioReporter final : public benchmark::BenchmarkReporter {
                 run.report_label.c_str(), number(run, "low"), number(run, "high"), both_sides(run).c_str());
     print_if_counted(run, "allocations", "%s: %.2f allocations a descriptor\n");
     print_if_counted(run, "sections", "%s: %.0f sections a second\n");
+    print_if_counted(run, "throughput", "%s: %.2fx the throughput of one, by the clock\n");
     std::fflush(stdout);
   }
   static std::string both_sides(Run const& run) {
