@@ -97,7 +97,7 @@ TEST(Catalogue, KnowsWhereStreamsAreSent) {
 TEST(Catalogue, KnowsTheSecondGenerationOfDelivery) {
   Catalogue catalogue;
   add(catalogue,
-      nit("40", "7F[ 04 05 0001 0100 0009 03041880 00 ] 79[ C0 000007 03 ] 7F[ 0D 06 01 149E7A80 00 ]"));
+      nit("40", "7F[ 04 05 0001 0100 0009 03041840 00 ] 79[ C0 000007 03 ] 7F[ 0D 06 01 149E7A80 00 ]"));
   auto const& deliveries = catalogue.network_streams().at({3, {1, 2}}).deliveries;
   ASSERT_EQ(deliveries.size(), 3u);
   EXPECT_EQ(deliveries[0].plp, 5);
