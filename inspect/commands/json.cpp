@@ -10,7 +10,7 @@ namespace {
 
 /// A line of JSON can hold a text of several lines, as those of the lists cannot.
 sivane::charset::Options with_lines(sivane::charset::Options options) {
-  options.line_break = "\n";
+  options.line_break.assign(1, '\n');  // g++ 12 warns of an assignment
   return options;
 }
 
