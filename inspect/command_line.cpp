@@ -47,16 +47,16 @@ void add_options_of_streams(CLI::App& command, Arguments& arguments) {
 
 void add_command(CLI::App& app, CommandRow const& row, Arguments& arguments) {
   CLI::App& command = *app.add_subcommand(row.name, row.help);
-  command
-      .add_option("SOURCE", arguments.source,
-                  "A file, - for standard input, or an address: see sivane-inspect --help")
-      ->required()
-      ->type_name("");
-  command.add_option("-i,--input", arguments.input, "What SOURCE holds: see sivane-inspect --help")
+  std::string const what = "A file, - for standard input, or an address: see sivane-inspect --help";
+  command.add_option(row.reads_two ? "A" : "SOURCE", arguments.source, what)->required()->type_name("");
+  if (row.reads_two)
+    command.add_option("B", arguments.other_source, "What is compared with it")->required()->type_name("");
+  command.add_option("-i,--input", arguments.input, "What the source holds: see sivane-inspect --help")
       ->type_name("KIND")
       ->capture_default_str();
   add_options_of_streams(command, arguments);
-  if (row.has_json) command.add_flag("--json", arguments.as_json, "One JSON object, for a program (check)");
+  if (row.has_json)
+    command.add_flag("--json", arguments.as_json, "One JSON object, for a program (check, diff)");
 }
 
 std::vector<std::string> command_names() {

@@ -3,6 +3,7 @@
 #include "command_list.h"
 
 #include "commands/check.h"
+#include "commands/diff.h"
 #include "commands/dump.h"
 #include "commands/events.h"
 #include "commands/json.h"
@@ -23,8 +24,9 @@ std::unique_ptr<Command> make(Showing const& showing) {
   return std::make_unique<Class>(showing);
 }
 
-constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Input::xml};
-constexpr std::span<Input const> any = all_inputs;
+constexpr Input all_inputs[] = {Input::ts, Input::packets, Input::sections, Input::xml, Input::json};
+constexpr std::span<Input const> with_json = all_inputs;
+constexpr std::span<Input const> any = with_json.first(4);
 constexpr std::span<Input const> bytes = any.first(3);
 constexpr std::span<Input const> packets = any.first(2);
 constexpr std::span<Input const> stream = any.first(1);
@@ -50,6 +52,8 @@ constexpr CommandRow rows[] = {
      make<M3uCommand>},
     {"check", "Hold the stream to ETSI TR 101 290 and more, and list what is violated", stream, tolerant,
      make<CheckCommand>, CommandRow::Json::offered},
+    {"diff", "Tell what two sources do not have in common", with_json, tolerant, make<DiffCommand>,
+     CommandRow::Json::offered, CommandRow::Sources::two},
 };
 
 }  // namespace
@@ -57,7 +61,7 @@ constexpr CommandRow rows[] = {
 std::span<CommandRow const> command_list() { return rows; }
 
 std::string_view name_of(Input input) {
-  constexpr std::string_view names[] = {"ts", "packets", "sections", "xml"};
+  constexpr std::string_view names[] = {"ts", "packets", "sections", "xml", "json"};
   return names[static_cast<int>(input)];
 }
 

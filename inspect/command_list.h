@@ -10,21 +10,24 @@
 
 namespace inspect {
 
-enum class Input { ts, packets, sections, xml };
+enum class Input { ts, packets, sections, xml, json };
 
 /// A subcommand. The constructor asks for every part of it, so that none can be left out.
 struct CommandRow {
   enum class Json { none, offered };
+  enum class Sources { one, two };
   using Make = std::unique_ptr<Command>(Showing const& showing);
 
   constexpr CommandRow(char const* its_name, char const* its_help, std::span<Input const> its_inputs,
-                       Parsing its_parsing, Make& its_make, Json its_json = Json::none)
+                       Parsing its_parsing, Make& its_make, Json its_json = Json::none,
+                       Sources its_sources = Sources::one)
       : name(its_name),
         help(its_help),
         inputs(its_inputs),
         parsing(its_parsing),
         make(&its_make),
-        has_json(its_json == Json::offered) {}
+        has_json(its_json == Json::offered),
+        reads_two(its_sources == Sources::two) {}
 
   /// Those that show each section as it comes show it as it is: the others gather, and print at the end.
   bool prints_at_end() const { return parsing == Parsing::tolerant; }
@@ -34,7 +37,8 @@ struct CommandRow {
   std::span<Input const> inputs;  ///< what it can read
   Parsing parsing;                ///< unless the user chooses
   Make* make;
-  bool has_json;  ///< whether the option --json gives what it shows to programs
+  bool has_json;   ///< whether the option --json gives what it shows to programs
+  bool reads_two;  ///< whether it compares two sources
 };
 
 std::span<CommandRow const> command_list();

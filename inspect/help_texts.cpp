@@ -20,6 +20,7 @@ constexpr HelpRow kinds[] = {
      "class that it "
      "is read with; lines of the command sections, too"},
     {"xml", "a document as the command xml writes it"},
+    {"json", "lines as the command json writes them, for diff alone, which knows both forms by themselves"},
 };
 
 constexpr HelpRow sources[] = {
@@ -37,8 +38,8 @@ constexpr HelpRow sources[] = {
 constexpr HelpRow ends[] = {
     {"0", "all is well"},
     {"1",
-     "a section failed; each is a line on standard error and stops nothing; or check found something of "
-     "priority 1 or 2"},
+     "a section failed; each is a line on standard error and stops nothing; check found something of "
+     "priority 1 or 2; diff found a difference"},
     {"2", "wrong usage, or the input cannot be read; a line on standard error says why"},
 };
 

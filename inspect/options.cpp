@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "input/dvb_input.h"
+#include "input/input_kind.h"
 #include "nearest_word.h"
 
 namespace inspect {
@@ -56,6 +57,17 @@ Input input_of(CommandRow const& row, std::string const& name) {
   }
   throw CLI::ValidationError(
       "--input", std::string(row.name) + " reads " + listed + " and not " + name + suggestion(name, words));
+}
+
+/// What is compared may be of two kinds, and says so itself.
+void tell_kinds_apart(Options& options) {
+  if (options.source == "-" && options.other_source == "-")
+    throw CLI::ValidationError("B", "standard input cannot be compared with itself");
+  options.other_input = kind_of(options.other_source, options.input);
+  options.input = kind_of(options.source, options.input);
+  if (options.input != options.other_input && is_lossy(options.input, options.other_input))
+    throw CLI::ValidationError(
+        "B", "JSON has the texts in UTF-8 and a document in bytes: compare either with a stream");
 }
 
 Parsing parsing_of(CommandRow const& row, Arguments const& arguments) {
@@ -107,8 +119,10 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.quiet = arguments.quiet;
   options.as_json = arguments.as_json;
   options.source = arguments.source;
+  options.other_source = arguments.other_source;
   options.charset = charset_of(arguments);
   options.parsing = parsing_of(row, arguments);
+  if (row.reads_two) tell_kinds_apart(options);
   refuse_what_has_no_packets(options);
   if (options.changes && row.prints_at_end())
     throw CLI::ValidationError("--changes", std::string(row.name) + " prints each thing once anyway");

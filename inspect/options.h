@@ -27,7 +27,7 @@ struct Arguments {
   std::string charset;
   std::string charset_always;
   bool as_json = false;
-  std::string source;
+  std::string source, other_source;
 };
 
 /// What the user asked for.
@@ -44,6 +44,8 @@ struct Options {
   sivane::charset::Options charset;
   bool as_json = false;
   std::string source;
+  std::string other_source;  ///< of a command that compares two; empty otherwise
+  Input other_input = Input::ts;
 };
 
 /// Throws `CLI::ValidationError`, which says what cannot be.

@@ -4,10 +4,12 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <ostream>
 
 #include "console.h"
 #include "input/dvb_input.h"
+#include "input/json_input.h"
 #include "input/packet_input.h"
 #include "input/section_list_input.h"
 #include "input/source.h"
@@ -25,6 +27,8 @@ void read_input(Source& source, Options const& options, Command& command) {
       return read_section_list(source, command);
     case Input::xml:
       return read_xml(source, command);
+    case Input::json:
+      return read_json(source, command);
     case Input::ts:
       return read_ts(source, options, command);
     case Input::packets:
@@ -63,6 +67,15 @@ ExitStatus read_all(Options const& options, Command& command, RunEnd& end) try {
   return unusable;
 }
 
+/// Reads the source, and the other one after it, if there is one.
+ExitStatus read_sources(Options options, Command& command, RunEnd& end) {
+  ExitStatus const status = read_all(options, command, end);
+  if (options.other_source.empty()) return status;
+  options.source = options.other_source;
+  options.input = options.other_input;
+  return std::max(status, read_all(options, command, end));
+}
+
 void count_failures(Command const& command) {
   if (command.problems() > 0)
     conclude(counted(command.problems(), "problem") + " passed over (see --strict)");
@@ -78,11 +91,13 @@ ExitStatus run(Options const& options) {
   std::ostream out(&buffer);
   out.exceptions(std::ios::badbit);
   RunEnd end(options.seconds, [&out] { out.flush(); });
-  auto const command =
-      options.command->make({out, buffer.is_terminal(), options.charset, options.source, options.as_json});
+  bool const compares_with_document =
+      options.command->reads_two && (options.input == Input::xml || options.other_input == Input::xml);
+  auto const command = options.command->make(
+      {out, buffer.is_terminal(), options.charset, options.source, options.as_json, compares_with_document});
   command->set_parsing(options.parsing);
   if (options.changes) command->show_changes_alone();
-  ExitStatus const status = read_all(options, *command, end);
+  ExitStatus const status = read_sources(options, *command, end);
   out.flush();
   count_failures(*command);
   print_conclusions();

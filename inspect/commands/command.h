@@ -37,6 +37,7 @@ struct Showing {
   sivane::charset::Options charset = {};  ///< how the texts of a broadcast become UTF-8
   std::string source = {};                ///< as the user named it
   bool as_json = false;                   ///< for a program, where the command has a choice
+  bool as_documents = false;              ///< of tables what documents keep of them
 };
 
 /// What the program does with the sections of its input. It numbers them from 1, and reports and counts those
@@ -52,7 +53,7 @@ class Command {
   void set_parsing(Parsing parsing) { parsing_ = parsing; }
   /// Leaves out the sections that were shown before and are the same.
   void show_changes_alone() { seen_.emplace(); }
-  /// Called once after the last section.
+  /// Called after the last section of each source.
   virtual void finish() {}
 
   /// Whether the packets of all PIDs are to be counted; `take_packets` gets them before `finish`.

@@ -10,13 +10,14 @@
 
 namespace inspect {
 
-/// A section as an input delivers it, in its bytes or as an element of a document; views of the input's
-/// storage, valid during the call.
+/// A section as an input delivers it, in its bytes, as an element of a document or as JSON; views of the
+/// input's storage, valid during the call.
 struct Section {
   static constexpr int no_pid = -1;
 
   std::span<unsigned char const> bytes = {};  ///< section_length + 3 of them; none of an element
   void* node = nullptr;                       ///< the element, an `IXMLDOMNode*`
+  std::string_view json = {};                 ///< the table as the text of a JSON object
   int pid = no_pid;
   long long offset = -1;  ///< in the input, of the packet in which it began; -1 where there are no packets
   std::string_view class_name = {};  ///< names the class to parse with; empty: by table id

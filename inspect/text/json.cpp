@@ -96,6 +96,10 @@ void JsonWriter::flag(bool value) { parts_->writer.Bool(value); }
 
 void JsonWriter::null() { parts_->writer.Null(); }
 
+void JsonWriter::raw(std::string_view value) {
+  parts_->writer.RawValue(value.data(), value.size(), rapidjson::kNullType);
+}
+
 void JsonWriter::end_line() {
   pass_on(0);
   parts_->writer.Reset(parts_->bytes);

@@ -32,6 +32,8 @@ class JsonWriter {
   void real(double value);
   void flag(bool value);
   void null();
+  /// What is JSON already.
+  void raw(std::string_view value);
 
   // A member in one call.
   void member(std::string_view name, std::string_view utf8) { key(name), text(utf8); }
