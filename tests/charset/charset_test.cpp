@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 #include <sivane/charset/charset.h>
 #include <sivane/charset/encoder.h>
-#include <sivane/charset/utf8.h>
 
 #include <new>
 #include <stdexcept>
@@ -42,32 +41,6 @@ TEST(Converter, ReadsEveryCharacterTable) {
       std::string const where = "texts.txt:" + std::to_string(number) + ' ' + block.title;
       EXPECT_EQ(converter.utf8(field_of(field)), text.substr(bar + 3)) << where;
       EXPECT_EQ(converter.utf8(text_of(field)), text.substr(bar + 3)) << where << ", selector apart";
-    }
-  }
-}
-
-bool is_shown(charset::Utf8 const& c) {
-  return c.is_valid && c.character >= 0x20 && (c.character < 0x7F || c.character > 0x9F) &&
-         (c.character & 0xFFFE) != 0xFFFE;
-}
-
-TEST(Converter, GivesValidTextWithoutControlCharactersForAnyBytes) {
-  charset::Converter converter(on_one_line());
-  for (unsigned int first = 0; first < 0x20; ++first) {
-    for (unsigned int pair = 0; pair < 0x10000; pair += 97) {
-      Bytes const field = {static_cast<unsigned char>(first),
-                           static_cast<unsigned char>(pair >> 8),
-                           static_cast<unsigned char>(pair),
-                           0x1B,
-                           0x9B,
-                           0xFF,
-                           0xFF};
-      std::string const converted = converter.utf8(field_of(field));
-      for (std::string_view rest = converted; !rest.empty();) {
-        charset::Utf8 const next = charset::first_of_utf8(rest);
-        ASSERT_TRUE(is_shown(next)) << first << ' ' << pair;
-        rest.remove_prefix(next.size);
-      }
     }
   }
 }
