@@ -149,8 +149,8 @@ class Rows {
 }  // namespace
 
 void ProgramsCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x48, 0x09, 0x0A, 0x45, 0x46, 0x56, 0x59, 0x6A, 0x7A, 0x7B,
-                      0x7C});  // service, CA, and what tells streams apart
+  options.build_only({0x48, 0x09, 0x0A, 0x45, 0x46, 0x56, 0x59, 0x6A, 0x7A, 0x7B, 0x7C,
+                      0x7F});  // service, CA, and what tells streams apart
 }
 
 void ProgramsCommand::show(Section const& section) {

@@ -4,7 +4,9 @@
 
 #include <sivane/sivane.h>
 
+#include <map>
 #include <ostream>
+#include <utility>
 
 #include "text/hexadecimal.h"
 #include "text/names.h"
@@ -12,7 +14,9 @@
 
 namespace inspect {
 
+using sivane::catalogue::Catalogue;
 using sivane::catalogue::Service;
+using sivane::catalogue::ServiceKey;
 
 namespace {
 
@@ -33,10 +37,32 @@ std::string access_text(Service const& service, std::vector<int> const& systems)
   return names.empty() ? "scrambled" : "scrambled (" + names + ")";
 }
 
+/// Below the services, with an empty line between; nothing where no network numbers channels.
+void print_channels(Catalogue const& catalogue, std::ostream& out) {
+  std::map<std::pair<int, ServiceKey>, bool> channels;
+  for (auto const& [key, stream] : catalogue.network_streams()) {
+    for (auto const& channel : stream.channel_numbers) {
+      ServiceKey const service = {key.stream.original_network, key.stream.transport_stream, channel.service};
+      channels.try_emplace({channel.number, service}, channel.is_visible);
+    }
+  }
+  if (channels.empty()) return;
+  Columns columns({"channel", "network", "stream", "service", "name", "shown"});
+  for (auto const& [channel, is_visible] : channels) {
+    auto const& [number, key] = channel;
+    Service const* const service = catalogue.find(key);
+    columns.add({std::to_string(number), std::to_string(key.original_network),
+                 std::to_string(key.transport_stream), std::to_string(key.service),
+                 service == nullptr ? "-" : service->name, is_visible ? "yes" : "no"});
+  }
+  out << '\n';
+  columns.print(out);
+}
+
 }  // namespace
 
 void ServicesCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x48, 0x53, 0x09});  // service, CA identifier, CA
+  options.build_only({0x48, 0x53, 0x09, 0x83, 0x87});  // service, CA identifier, CA, channel numbers
 }
 
 bool ServicesCommand::print(sivane::catalogue::Catalogue const& catalogue, std::ostream& out) {
@@ -47,8 +73,10 @@ bool ServicesCommand::print(sivane::catalogue::Catalogue const& catalogue, std::
                  service.provider, type_text(service.type), running_text(service.running_status),
                  access_text(service, catalogue.ca_systems(key))});
   }
-  if (!columns.empty()) columns.print(out);
-  return !columns.empty();
+  if (columns.empty()) return false;
+  columns.print(out);
+  print_channels(catalogue, out);
+  return true;
 }
 
 }  // namespace inspect

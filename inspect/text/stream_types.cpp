@@ -26,8 +26,12 @@ char const* text_of_private(ElementaryStream::Coding coding) {
       return "DTS audio";
     case Coding::aac:
       return "AAC audio";
+    case Coding::ac4:
+      return "AC-4 audio";
     case Coding::subtitles:
       return "DVB subtitles";
+    case Coding::ttml:
+      return "TTML subtitles";
     case Coding::teletext:
       return "teletext";
     case Coding::vbi:

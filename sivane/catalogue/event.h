@@ -66,6 +66,14 @@ struct Component {
   auto tied() const { return std::tie(stream_content, type, tag, language, text); }
 };
 
+/// What a recorder knows a programme or series by (ETSI TS 102 323, 12.1).
+struct ContentId {
+  int type = 0;      ///< crid_type, 6 bits; 1 an item, 2 a series, 3 a recommendation
+  std::string crid;  ///< raw; without an authority it is one of the service's default authority
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(type, crid); }
+};
+
 /// An event of a service (ETSI EN 300 468, 5.2.4).
 struct Event {
   std::optional<Time> start;                     ///< none where undefined
@@ -76,6 +84,7 @@ struct Event {
   std::vector<Genre> genres;                     ///< in the order of the descriptors
   std::vector<Rating> ratings;                   ///< in the order of the descriptors
   std::vector<Component> components;             ///< in the order of the descriptors
+  std::vector<ContentId> content_ids;            ///< in the order of the descriptors; those that stand there
 
   /// In the first language that has one; empty where none has.
   SIVANE_API std::string const& title() const;
@@ -85,7 +94,8 @@ struct Event {
   }
   /// The members, as they are compared.
   auto tied() const {
-    return std::tie(start, duration, running_status, is_scrambled, texts, genres, ratings, components);
+    return std::tie(start, duration, running_status, is_scrambled, texts, genres, ratings, components,
+                    content_ids);
   }
 };
 

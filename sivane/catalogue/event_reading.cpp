@@ -2,6 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/catalogue/event_reading.h>
 #include <sivane/catalogue/values.h>
+#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 #include <string_view>
@@ -87,6 +88,18 @@ std::vector<Component> components_of(Eit::EventInfo const& info, charset::Conver
   return components;
 }
 
+std::vector<ContentId> content_ids_of(Eit::EventInfo const& info) {
+  std::vector<ContentId> ids;
+  for (DescriptorGeneral const& bytes : info.get_general_descriptors()) {
+    auto const descriptor = extended::as<DescriptorContentIdentifier>(bytes, extended::Malformed::is_nothing);
+    if (!descriptor) continue;
+    for (auto const& one : descriptor->crids) {
+      if (!one.crid.empty()) ids.push_back({one.crid_type, one.crid});
+    }
+  }
+  return ids;
+}
+
 void shrink(Event& event) {
   for (EventText& text : event.texts) {
     for (std::string* const part : {&text.title, &text.short_text, &text.extended_text})
@@ -97,6 +110,7 @@ void shrink(Event& event) {
   event.genres.shrink_to_fit();
   event.ratings.shrink_to_fit();
   event.components.shrink_to_fit();
+  event.content_ids.shrink_to_fit();
 }
 
 void keep_text(EventText const& known, EventText& text) {
@@ -120,6 +134,7 @@ Event event_of(Eit::EventInfo const& info, charset::Converter& text) {
   event.genres = genres_of(info);
   event.ratings = ratings_of(info);
   event.components = components_of(info, text);
+  event.content_ids = content_ids_of(info);
   shrink(event);
   return event;
 }

@@ -15,8 +15,10 @@ Kind kind_of_coding(Coding coding) {
     case Coding::enhanced_ac3:
     case Coding::dts:
     case Coding::aac:
+    case Coding::ac4:
       return Kind::audio;
     case Coding::subtitles:
+    case Coding::ttml:
       return Kind::subtitles;
     case Coding::teletext:
       return Kind::teletext;

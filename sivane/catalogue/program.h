@@ -23,7 +23,7 @@ struct ConditionalAccess {
 /// A stream of a program.
 struct ElementaryStream {
   /// What its descriptors tell of it beside its stream_type.
-  enum class Coding { untold, ac3, enhanced_ac3, dts, aac, subtitles, teletext, vbi };
+  enum class Coding { untold, ac3, enhanced_ac3, dts, aac, ac4, subtitles, ttml, teletext, vbi };
   /// What it is to a viewer.
   enum class Kind { video, audio, subtitles, teletext, data };
 

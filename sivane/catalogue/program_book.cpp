@@ -3,6 +3,7 @@
 #include <sivane/catalogue/program_book.h>
 #include <sivane/catalogue/table_ids.h>
 #include <sivane/catalogue/values.h>
+#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 
@@ -16,6 +17,14 @@ bool has_general(PmtStreamInfo const& stream, int tag) {
                      [tag](auto const& other) { return other.tag == tag; });
 }
 
+template <class Descriptor>
+bool has_extended(PmtStreamInfo const& stream) {
+  auto const& descriptors = stream.get_general_descriptors();
+  return std::any_of(descriptors.begin(), descriptors.end(), [](auto const& bytes) {
+    return extended::as<Descriptor>(bytes, extended::Malformed::is_nothing).has_value();
+  });
+}
+
 ElementaryStream::Coding coding_of(PmtStreamInfo const& stream) {
   using Coding = ElementaryStream::Coding;
   constexpr int enhanced_ac3_tag = 0x7A, dts_tag = 0x7B, aac_tag = 0x7C;
@@ -23,7 +32,9 @@ ElementaryStream::Coding coding_of(PmtStreamInfo const& stream) {
   if (has_general(stream, enhanced_ac3_tag)) return Coding::enhanced_ac3;
   if (has_general(stream, dts_tag)) return Coding::dts;
   if (has_general(stream, aac_tag)) return Coding::aac;
+  if (has_extended<DescriptorAC4>(stream)) return Coding::ac4;
   if (!stream.get_subtitling_descriptors().empty()) return Coding::subtitles;
+  if (has_extended<DescriptorTTMLSubtitling>(stream)) return Coding::ttml;
   if (!stream.get_teletext_descriptors().empty()) return Coding::teletext;
   bool const has_vbi =
       !stream.get_VBI_teletext_descriptors().empty() || !stream.get_VBI_data_descriptors().empty();

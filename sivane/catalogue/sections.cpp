@@ -65,7 +65,7 @@ Changes Catalogue::State::parse_and_add(unsigned char const* section, std::size_
 
 Changes Catalogue::State::parse_long(unsigned char const* section, std::size_t size) {
   int const table_id = *section;
-  if (is_eit(table_id)) return parse_and_add<Eit>(section, size, {0x4D, 0x4E, 0x50, 0x54, 0x55});
+  if (is_eit(table_id)) return parse_and_add<Eit>(section, size, {0x4D, 0x4E, 0x50, 0x54, 0x55, 0x76});
   switch (table_id) {
     case pat_id:
       return parse_and_add<Pat>(section, size, {});
@@ -73,7 +73,7 @@ Changes Catalogue::State::parse_long(unsigned char const* section, std::size_t s
       return parse_and_add<Cat>(section, size, {0x09});
     case pmt_id:
       return parse_and_add<Pmt>(section, size,
-                                {0x09, 0x0A, 0x45, 0x46, 0x52, 0x56, 0x59, 0x6A, 0x7A, 0x7B, 0x7C});
+                                {0x09, 0x0A, 0x45, 0x46, 0x52, 0x56, 0x59, 0x6A, 0x7A, 0x7B, 0x7C, 0x7F});
     case actual_nit_id:
     case other_nit_id:
       return parse_and_add<Nit>(

@@ -103,7 +103,8 @@ TEST(CatalogueEvents, HaveTheirTextsPutTogetherByLanguageAndNumber) {
       4E[ 12 "deu" [ [05 "Regie"] ["Z"] ] ["c"] ] 4E[ 02 "deu" [ [05 "Von"] ["Y"] ] ["a"] ]
       4E[ 12 "deu" [] ["twice"] ] 4E[ 00 "fra" [] ["f"] ] 4E[ 22 "deu" [] ["e"] ]
       4D[ "deu" [05 FC "ber"] ["kurz"] ] 4D[ "f/a" ["titre"] [] ]
-      54[ 14 2A ] 55[ "DEU" 09 ] 50[ 05 0B 07 "eng" "wide" ])")));
+      54[ 14 2A ] 55[ "DEU" 09 ] 50[ 05 0B 07 "eng" "wide" ]
+      76[ 04 [ "/a" ] 09 0001 ] 76[ 08 [ "x.tv/b" ] ] 76[ 04 02 "c" ])")));
   Event const& event = *catalogue.find({service_7, 1});
   ASSERT_EQ(event.texts.size(), 3u);
   catalogue::EventText const& german = event.texts[0];
@@ -117,6 +118,7 @@ TEST(CatalogueEvents, HaveTheirTextsPutTogetherByLanguageAndNumber) {
   EXPECT_EQ(event.genres, (std::vector<catalogue::Genre>{{1, 4, 0x2A}}));
   EXPECT_EQ(event.ratings[0].minimum_age(), 12);
   EXPECT_EQ(event.components, (std::vector<catalogue::Component>{{5, 11, 7, "eng", "wide"}}));
+  EXPECT_EQ(event.content_ids, (std::vector<catalogue::ContentId>{{1, "/a"}, {2, "x.tv/b"}}));
 }
 
 TEST(CatalogueEvents, KeepTheTextsOfATableThatTellsMoreOfTheSame) {
