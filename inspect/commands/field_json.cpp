@@ -2,7 +2,7 @@
 // Copyright (c) 2026 the sivane authors
 #include "commands/field_json.h"
 
-#include <sivane/descriptors/descriptor.h>
+#include <sivane/descriptors/extended/extended.h>
 #include <sivane/foundation/hex.h>
 #include <sivane/foundation/time.h>
 
@@ -103,8 +103,21 @@ void FieldJson::begin_descriptor(std::string_view element, sivane::DescriptorBas
   json_.begin_object();
   json_.member("tag", descriptor.tag);
   json_.member("name", element);
+  open_ = &descriptor;
 }
 
-void FieldJson::end_descriptor() { json_.end_object(); }
+void FieldJson::end_descriptor() {
+  using namespace sivane::extended;
+  auto const* const kept = of_all_tables_ ? dynamic_cast<sivane::DescriptorGeneral const*>(open_) : nullptr;
+  auto const built = kept == nullptr ? nullptr : build(*kept, Malformed::is_nothing);
+  if (built != nullptr) {
+    json_.key("content");
+    json_.begin_object();
+    json_.member("name", built->get_tag_text());
+    built->visit(*this);
+    json_.end_object();
+  }
+  json_.end_object();
+}
 
 }  // namespace inspect

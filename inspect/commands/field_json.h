@@ -15,7 +15,10 @@ namespace inspect {
 /// documents have them, texts in UTF-8, bytes in hexadecimal, dates and durations by ISO 8601.
 class FieldJson final : public sivane::FieldVisitor {
  public:
-  FieldJson(JsonWriter& json, sivane::charset::Converter& texts) : json_(json), texts_(texts) {}
+  /// With `of_all_tables` the tags are those of all tables but the AIT: descriptors that are kept as bytes
+  /// are told by their fields too, where there is a class for them.
+  FieldJson(JsonWriter& json, sivane::charset::Converter& texts, bool of_all_tables)
+      : json_(json), texts_(texts), of_all_tables_(of_all_tables) {}
 
   void number(sivane::Field const& field, std::int64_t value) override;
   void real(sivane::Field const& field, double value) override;
@@ -39,6 +42,8 @@ class FieldJson final : public sivane::FieldVisitor {
 
   JsonWriter& json_;
   sivane::charset::Converter& texts_;
+  bool of_all_tables_;
+  sivane::DescriptorBase const* open_ = nullptr;  // the descriptor that is visited
 };
 
 }  // namespace inspect

@@ -24,7 +24,7 @@ void JsonCommand::show(Section const& section) {
   begin(section, table->table_id(), table->class_name());
   json_.key("table");
   json_.begin_object();
-  FieldJson fields(json_, texts_);
+  FieldJson fields(json_, texts_, table->class_name() != "Ait");
   table->visit(fields);
   json_.end_object();
   if (!latest_problems().empty()) write_problems();
