@@ -27,8 +27,8 @@ class FieldJson final : public sivane::FieldVisitor {
   void string(sivane::Field const& field, std::string_view value) override;
   void code(sivane::Field const& field, std::string_view letters) override;
   void bytes(sivane::Field const& field, unsigned char const* data, std::size_t size) override;
-  void date(sivane::Field const& field, sivane::DateTime const& value) override;
-  void duration(sivane::Field const& field, sivane::Duration const& value) override;
+  void date(sivane::Field const& field, sivane::DateTime const& date) override;
+  void duration(sivane::Field const& field, sivane::Duration const& duration) override;
   void begin_list(sivane::Field const& field, std::size_t size) override;
   void end_list() override;
   void begin_record(sivane::Field const& field) override;
