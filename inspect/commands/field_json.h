@@ -17,7 +17,7 @@ class FieldJson final : public sivane::FieldVisitor {
  public:
   /// With `of_all_tables` the tags are those of all tables but the AIT: descriptors that are kept as bytes
   /// are told by their fields too, where there is a class for them.
-  FieldJson(JsonWriter& json, sivane::charset::Converter& texts, bool of_all_tables)
+  FieldJson(JsonWriter& json, sivane::charset::Converter& texts, bool of_all_tables = false)
       : json_(json), texts_(texts), of_all_tables_(of_all_tables) {}
 
   void number(sivane::Field const& field, std::int64_t value) override;
