@@ -10,6 +10,7 @@
 #include "commands/m3u.h"
 #include "commands/networks.h"
 #include "commands/programs.h"
+#include "commands/report.h"
 #include "commands/sections.h"
 #include "commands/services.h"
 #include "commands/xml.h"
@@ -52,6 +53,8 @@ constexpr CommandRow rows[] = {
      make<M3uCommand>},
     {"check", "Hold the stream to ETSI TR 101 290 and more, and list what is violated", stream, tolerant,
      make<CheckCommand>, CommandRow::Json::offered},
+    {"report", "Make one HTML page of what is in the stream, and of what is wrong with it", stream, tolerant,
+     make<ReportCommand>},
     {"diff", "Tell what two sources do not have in common", with_json, tolerant, make<DiffCommand>,
      CommandRow::Json::offered, CommandRow::Sources::two},
 };

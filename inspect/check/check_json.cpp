@@ -5,7 +5,6 @@
 
 #include "check/check_text.h"
 #include "check/subject_texts.h"
-#include "text/json.h"
 
 namespace inspect {
 
@@ -73,6 +72,11 @@ void write_measure(JsonWriter& json, StreamCheck const& check, MeasureRow const&
 
 void print_check_as_json(std::ostream& out, StreamCheck const& check) {
   JsonWriter json(out);
+  write_check(json, check);
+  json.end_line();
+}
+
+void write_check(JsonWriter& json, StreamCheck const& check) {
   json.begin_object();
   json.member("packets", static_cast<long long>(check.end().packet));
   json.key("seconds");
@@ -82,7 +86,6 @@ void print_check_as_json(std::ostream& out, StreamCheck const& check) {
   for (MeasureRow const& row : measure_list()) write_measure(json, check, row);
   json.end_array();
   json.end_object();
-  json.end_line();
 }
 
 }  // namespace inspect

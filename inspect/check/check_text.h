@@ -5,6 +5,7 @@
 #include <iosfwd>
 
 #include "check/stream_check.h"
+#include "text/json.h"
 
 namespace inspect {
 
@@ -12,5 +13,7 @@ namespace inspect {
 void print_check(std::ostream& out, StreamCheck const& check);
 /// The same as one JSON object.
 void print_check_as_json(std::ostream& out, StreamCheck const& check);
+/// The object itself, as a value of more.
+void write_check(JsonWriter& json, StreamCheck const& check);
 
 }  // namespace inspect

@@ -30,6 +30,8 @@ class StreamCheck final : public PacketSink {
   Findings const& findings() const { return findings_; }
   RepetitionMeasures const& repetitions() const { return repetition_; }
   Place const& end() const { return end_; }  ///< behind the last packet
+  /// When a place near the end was, as far as it is known by now; -1 without a clock.
+  std::int64_t ticks_at(std::uint64_t offset) const { return clock_.ticks_at(offset); }
   bool has_clock() const { return end_.ticks >= 0; }
   /// Why a measure is not, or not all, measured; empty where it is.
   std::string reservation(MeasureRow const& row) const;

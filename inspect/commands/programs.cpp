@@ -16,6 +16,7 @@
 #include "text/names.h"
 #include "text/stream_types.h"
 #include "text/terminal.h"
+#include "text/usual_pids.h"
 
 namespace inspect {
 
@@ -24,38 +25,6 @@ namespace {
 using namespace sivane::catalogue;
 
 constexpr int null_pid = 0x1FFF;
-
-/// PIDs that every stream uses alike (ETSI EN 300 468, table 1).
-std::string usual_content(int pid) {
-  switch (pid) {
-    case 0x0000:
-      return "PAT";
-    case 0x0001:
-      return "CAT";
-    case 0x0002:
-      return "TSDT";
-    case 0x0010:
-      return "NIT";
-    case 0x0011:
-      return "SDT, BAT";
-    case 0x0012:
-      return "EIT";
-    case 0x0013:
-      return "RST";
-    case 0x0014:
-      return "TDT, TOT";
-    case 0x0015:
-      return "network synchronisation";
-    case 0x001E:
-      return "DIT";
-    case 0x001F:
-      return "SIT";
-    case null_pid:
-      return "null packets";
-    default:
-      return "unreferenced";
-  }
-}
 
 struct Content {
   std::string what;
