@@ -26,7 +26,8 @@ std::unique_ptr<Table> through_document(Table const& table) {
 
 }  // namespace
 
-DiffCommand::DiffCommand(Showing const& showing) : showing_(showing), texts_(showing.charset) {
+DiffCommand::DiffCommand(Showing const& showing)
+    : showing_(showing), texts_(with_line_breaks(showing.charset)) {
   show_changes_alone();
 }
 

@@ -28,6 +28,11 @@ bool is_defined(sivane::Duration const& duration) {
 
 }  // namespace
 
+sivane::charset::Options with_line_breaks(sivane::charset::Options options) {
+  options.line_break.assign(1, '\n');  // g++ 12 warns of an assignment
+  return options;
+}
+
 void FieldJson::name(sivane::Field const& field) {
   if (!field.name.empty()) json_.key(field.name);
 }

@@ -11,6 +11,9 @@
 
 namespace inspect {
 
+/// A line of JSON can hold a text of several lines, as those of the lists cannot.
+sivane::charset::Options with_line_breaks(sivane::charset::Options options);
+
 /// Writes what a visit tells as the members of the object that is open in a `JsonWriter`: numbers as
 /// documents have them, texts in UTF-8, bytes in hexadecimal, dates and durations by ISO 8601.
 class FieldJson final : public sivane::FieldVisitor {

@@ -6,17 +6,8 @@
 
 namespace inspect {
 
-namespace {
-
-/// A line of JSON can hold a text of several lines, as those of the lists cannot.
-sivane::charset::Options with_lines(sivane::charset::Options options) {
-  options.line_break.assign(1, '\n');  // g++ 12 warns of an assignment
-  return options;
-}
-
-}  // namespace
-
-JsonCommand::JsonCommand(Showing const& showing) : json_(showing.out), texts_(with_lines(showing.charset)) {}
+JsonCommand::JsonCommand(Showing const& showing)
+    : json_(showing.out), texts_(with_line_breaks(showing.charset)) {}
 
 void JsonCommand::show(Section const& section) {
   std::unique_ptr<Table> const table = table_of(section);

@@ -17,9 +17,9 @@ namespace {
 
 /// The sections of a small stream, in which a test replaces texts.
 struct Stream {
-  std::string sdt[2] = {
-      "42 F( 0007 C1 00 01 0001 FF 0001 FC 8( 48[ 01 [ \"P\" ] [ \"One\" ] ] ) crc )",
-      "42 F( 0007 C1 01 01 0001 FF 0002 FC 8( 48[ 01 [ 05 \"P\" EE ] [ \"Two\" ] ] 5F[ 00000028 ] ) crc )"};
+  std::string sdt[2] = {"42 F( 0007 C1 00 01 0001 FF 0001 FC 8( 48[ 01 [ \"P\" ] [ \"One\" ] ] ) crc )",
+                        "42 F( 0007 C1 01 01 0001 FF 0002 FC 8( 48[ 01 [ 05 \"P\" 8A EE ] [ \"Two\" ] ] 5F[ "
+                        "00000028 ] ) crc )"};
   std::string eit =
       "4E F( 0001 C1 00 00 0007 0001 00 4E 0005 E000 120000 013000 8( 4D[ \"eng\" [ \"News\" ] [] ] )"
       " 0006 E000 133000 003000 8( 4D[ \"eng\" [ \"Film\" ] [] ] ) crc )";
