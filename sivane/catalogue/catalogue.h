@@ -123,7 +123,7 @@ class SIVANE_API Catalogue {
   std::size_t problems() const;  ///< broken descriptors and loops that were passed over in sections
 
  private:
-  struct State;
+  struct SIVANE_LOCAL State;
   std::unique_ptr<State> state_;
 };
 
