@@ -36,7 +36,8 @@ void DiffCommand::show(Section const& section) {
   std::unique_ptr<Table> table = table_of(section);
   if (!table) return;
   if (showing_.as_documents && section.node == nullptr) table = through_document(*table);
-  current_->take(section.pid, table->class_name(), json_of(*table));
+  int const pid = showing_.as_documents ? Section::no_pid : section.pid;  // documents tell of none
+  current_->take(pid, table->class_name(), json_of(*table));
 }
 
 std::string DiffCommand::json_of(Table const& table) {
@@ -44,7 +45,7 @@ std::string DiffCommand::json_of(Table const& table) {
   {
     JsonWriter json(text);
     json.begin_object();
-    FieldJson fields(json, texts_);
+    FieldJson fields(json, texts_, table.class_name() != "Ait");
     table.visit(fields);
     json.end_object();
   }
