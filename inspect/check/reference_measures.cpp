@@ -24,6 +24,7 @@ bool wants_name(int pid) { return pid >= first_free_pid && pid != null_pid; }
 void ReferenceMeasures::take_span(PidSpan const& span) {
   auto const [entry, is_new] = present_.try_emplace(span.pid, Presence{span.first});
   Presence& presence = entry->second;
+  if (is_new) ++unjudged_;
   auto const expected = expected_since_.find(span.pid);
   if (expected != expected_since_.end() && span.first.ticks >= 0) {
     std::int64_t const since = std::max(presence.last_ticks, expected->second);
@@ -33,14 +34,18 @@ void ReferenceMeasures::take_span(PidSpan const& span) {
     }
   }
   presence.last_ticks = span.last_ticks;
-  bool const lost_its_name = presence.is_judged && !presence.is_reported && !tables_.names(span.pid);
-  if (lost_its_name) presence = {span.first, span.last_ticks};
+  bool const lost_its_name =
+      wants_name(span.pid) && presence.is_judged && !presence.is_reported && !tables_.names(span.pid);
+  if (lost_its_name) {
+    presence = {span.first, span.last_ticks};
+    ++unjudged_;
+  }
   judge_references(span.first.ticks);
 }
 
 /// Before all program maps have come nobody can say what they name.
 void ReferenceMeasures::judge_references(std::int64_t now) {
-  if (now < 0 || !tables_.has_all_maps()) return;
+  if (unjudged_ == 0 || now < 0 || !tables_.has_all_maps()) return;
   for (auto& [pid, presence] : present_) {
     if (!presence.is_judged && presence.first.ticks >= 0 && now - presence.first.ticks > time_to_be_named)
       judge_reference(pid, presence);
@@ -48,6 +53,7 @@ void ReferenceMeasures::judge_references(std::int64_t now) {
 }
 
 void ReferenceMeasures::judge_reference(int pid, Presence& presence) {
+  if (!presence.is_judged) --unjudged_;
   presence.is_judged = true;
   if (!wants_name(pid) || tables_.names(pid) || presence.is_reported) return;
   presence.is_reported = true;

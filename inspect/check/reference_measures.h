@@ -39,6 +39,7 @@ class ReferenceMeasures {
   Findings& findings_;
   StreamTables const& tables_;
   std::map<int, Presence> present_;
+  int unjudged_ = 0;                            // of those
   std::map<int, std::int64_t> expected_since_;  // PIDs that are to have a packet every 5 s
   std::optional<Place> first_scrambled_;
 };
