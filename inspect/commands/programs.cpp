@@ -24,8 +24,6 @@ namespace {
 
 using namespace sivane::catalogue;
 
-constexpr int null_pid = 0x1FFF;
-
 struct Content {
   std::string what;
   std::vector<std::string> languages;

@@ -75,14 +75,13 @@ rapidjson::Document merged(TableVersion const& table, TableVersion const* others
   rapidjson::Document whole(rapidjson::kObjectType);
   for (auto const& [number, text] : table.sections) {
     if (others != nullptr && !others->sections.contains(number)) continue;
-    rapidjson::Document section = object_of(text);
-    for (auto& member : section.GetObject()) {
-      auto const found = whole.FindMember(member.name);
+    rapidjson::Document const section = object_of(text);
+    for (auto const& member : section.GetObject()) {
       JsonValue value(member.value, whole.GetAllocator());
-      if (found == whole.MemberEnd()) {
+      if (!whole.HasMember(member.name)) {
         whole.AddMember(JsonValue(member.name, whole.GetAllocator()), value, whole.GetAllocator());
-      } else if (found->value.IsArray() && value.IsArray()) {
-        for (JsonValue& item : value.GetArray()) found->value.PushBack(item, whole.GetAllocator());
+      } else if (JsonValue& held = whole[member.name]; held.IsArray() && value.IsArray()) {
+        for (JsonValue& item : value.GetArray()) held.PushBack(item, whole.GetAllocator());
       }
     }
   }

@@ -17,6 +17,14 @@ using sivane::catalogue::Delivery;
 constexpr int digits_of_frequencies = 9;  // as many as a descriptor has
 constexpr double mega = 1e6, giga = 1e9;
 
+/// In hertz what is far from any frequency in use, as some broadcasts have it.
+std::string megahertz(double hertz) {
+  std::ostringstream text;
+  text << std::setprecision(digits_of_frequencies) << (hertz < 1000 ? hertz : hertz / mega)
+       << (hertz < 1000 ? " Hz" : " MHz");
+  return text.str();
+}
+
 /// What S2 adds to the satellite's own descriptor.
 void write_input(std::ostream& text, Delivery const& delivery) {
   if (delivery.input_stream >= 0) text << ", input stream " << delivery.input_stream;
@@ -39,7 +47,7 @@ void write_s2x(std::ostream& text, Delivery const& delivery) {
 /// T2 and C2, whose streams are in pipes.
 void write_pipe(std::ostream& text, char const* system, Delivery const& delivery) {
   text << system;
-  if (delivery.frequency) text << ' ' << *delivery.frequency / mega << " MHz";
+  if (delivery.frequency) text << ' ' << megahertz(*delivery.frequency);
   text << ", PLP " << delivery.plp;
   if (delivery.bandwidth > 0) text << ", " << delivery.bandwidth / mega << " MHz wide";
 }
