@@ -75,6 +75,11 @@ macro(sivane_install_component name description)
 
   get_target_property(type sivane_${name} TYPE)
   if(type STREQUAL SHARED_LIBRARY)
+    # In the system's own folder everything is found without being told where.
+    set(file "\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}/$<TARGET_FILE_NAME:sivane_${name}>")
+    install(CODE "if(CMAKE_INSTALL_PREFIX MATCHES \"/usr$\" AND EXISTS \"${file}\")
+        file(RPATH_REMOVE FILE \"${file}\")
+      endif()" COMPONENT ${name}_runtime)
     set(runtime_package libsivane-${name}${SIVANE_INTERFACE})
     sivane_runtime_package(${name}_runtime ${runtime_package} "${description}: the shared library." ${runtime_needs})
     list(APPEND development_needs "${runtime_package} (= ${PROJECT_VERSION})")
