@@ -41,6 +41,7 @@
 #include <sivane/tables/nit.h>
 #include <sivane/tables/pat.h>
 #include <sivane/tables/pmt.h>
+#include <sivane/tables/registrations.h>
 #include <sivane/tables/rst.h>
 #include <sivane/tables/sdt.h>
 #include <sivane/tables/section.h>

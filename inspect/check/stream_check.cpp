@@ -6,7 +6,7 @@
 
 #include "check/content_measures.h"
 #include "check/subject_texts.h"
-#include "input/followed_tables.h"
+#include "input/handle.h"
 
 namespace inspect {
 
@@ -150,7 +150,8 @@ void StreamCheck::follow(Observation const& seen) {
   for (auto const& [number, program] : coming_.programs()) {
     for (int const pid : program.timed_pids) pid_watch_.look_for_time_stamps(pid);
   }
-  for (Handle const& handle : handles_named_by(seen.section.content)) {
+  auto const& content = seen.section.content;
+  for (Handle const& handle : sivane::registrations_named_by(content.data(), content.size())) {
     if (is_carousel(handle.table_id)) continue;
     if (pid_watch_.look_for_sections(handle.pid)) section_watch_.watch(handle.pid);
   }

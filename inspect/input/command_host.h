@@ -3,11 +3,11 @@
 #pragma once
 
 #include <sivane/demux/demux.h>
+#include <sivane/tables/registrations.h>
 
 #include <utility>
 
 #include "commands/command.h"
-#include "input/followed_tables.h"
 #include "input/handle.h"
 #include "options.h"
 
@@ -23,7 +23,7 @@ class CommandHost : public Driver {
       : Driver(std::forward<Arguments>(arguments)...),
         command_(command),
         follows_tables_(options.handles.empty()) {
-    add(follows_tables_ ? usual_handles() : options.handles);
+    add(follows_tables_ ? sivane::usual_registrations() : options.handles);
     if (options.input == Input::ts) this->set_reassembly(sivane::Reassembly::every_section);
   }
 
@@ -37,7 +37,7 @@ class CommandHost : public Driver {
     std::span<unsigned char const> const bytes(section, claimed_size(section));
     bool const had_wrong_crc = !command_.take({.bytes = bytes, .pid = pid, .offset = offset()});
     if (had_wrong_crc) this->report_crc_failure(pid);
-    if (follows_tables_) add(handles_named_by(bytes));
+    if (follows_tables_) add(sivane::registrations_named_by(section, bytes.size()));
   }
 
  private:

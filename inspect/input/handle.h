@@ -2,12 +2,11 @@
 // Copyright (c) 2026 the sivane authors
 #pragma once
 
+#include <sivane/tables/registrations.h>
+
 namespace inspect {
 
 /// Sections of one table id on one PID.
-struct Handle {
-  int pid;
-  int table_id;
-};
+using Handle = sivane::Registration;
 
 }  // namespace inspect

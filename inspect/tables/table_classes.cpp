@@ -6,27 +6,18 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <map>
 #include <utility>
 
 namespace inspect {
 
 namespace {
 
-std::optional<int> usual_pid(std::string_view name) {
-  static std::map<std::string_view, int> const pids = {{"Pat", 0x0000}, {"Cat", 0x0001}, {"Nit", 0x0010},
-                                                       {"Sdt", 0x0011}, {"Bat", 0x0011}, {"Eit", 0x0012},
-                                                       {"Rst", 0x0013}, {"Tdt", 0x0014}, {"Tot", 0x0014}};
-  auto const found = pids.find(name);
-  return found == pids.end() ? std::optional<int>() : found->second;
-}
-
 TableClass row(std::string_view name, std::initializer_list<sivane::TableIds> ids) {
   std::vector<int> table_ids;
   for (sivane::TableIds const& of : ids) {
     for (int id = of.first; id <= of.last; ++id) table_ids.push_back(id);
   }
-  return {name, std::move(table_ids), usual_pid(name)};
+  return {name, std::move(table_ids)};
 }
 
 }  // namespace

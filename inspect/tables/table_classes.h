@@ -3,7 +3,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -16,8 +15,7 @@ namespace inspect {
 /// One class of the library that reads sections.
 struct TableClass {
   std::string_view name;
-  std::vector<int> table_ids;    ///< those that it reads
-  std::optional<int> usual_pid;  ///< where they are found in every stream; none: where other tables say
+  std::vector<int> table_ids;  ///< those that it reads
 };
 
 std::span<TableClass const> table_classes();
