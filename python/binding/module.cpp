@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include <pybind11/pybind11.h>
+
+#include "catalogue.h"
+#include "errors.h"
+#include "values.h"
+
+PYBIND11_MODULE(_sivane, module) {
+  using namespace sivane::python;
+  module.doc() = "The compiled part of the package sivane; import that.";
+  module.attr("__version__") = SIVANE_VERSION;
+  prepare_values();
+  add_errors(module);
+  add_catalogue(module);
+}

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#pragma once
+
+#include <pybind11/pybind11.h>
+
+#include "stream_reader.h"
+
+namespace sivane::python {
+
+/// `registrations` is None, or pairs of PID and table id.
+inline Selection selection_of(pybind11::object const& registrations, bool every_section) {
+  Selection selection;
+  selection.every_section = every_section;
+  if (registrations.is_none()) return selection;
+  selection.registrations.emplace();
+  for (pybind11::handle const pair : registrations) {
+    auto const [pid, table_id] = pair.cast<std::pair<int, int>>();
+    if (pid < 0 || pid > 0x1FFF || table_id < 0 || table_id > 0xFF) {
+      throw pybind11::value_error("a registration is a PID, 0 to 0x1fff, and a table id, 0 to 0xff");
+    }
+    selection.registrations->push_back({pid, table_id});
+  }
+  return selection;
+}
+
+}  // namespace sivane::python
