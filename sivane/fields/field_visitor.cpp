@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/descriptors/descriptor.h>
 #include <sivane/fields/field_visitor.h>
 
 namespace sivane {
@@ -19,5 +20,17 @@ void FieldVisitor::begin_record(Field const&) {}
 void FieldVisitor::end_record() {}
 void FieldVisitor::begin_descriptor(std::string_view, DescriptorBase const&) {}
 void FieldVisitor::end_descriptor() {}
+
+void FieldVisitor::record(Field const& field, FieldHolder const& record) {
+  begin_record(field);
+  record.visit(*this);
+  end_record();
+}
+
+void FieldVisitor::descriptor(std::string_view element, DescriptorBase const& descriptor) {
+  begin_descriptor(element, descriptor);
+  descriptor.visit(*this);
+  end_descriptor();
+}
 
 }  // namespace sivane

@@ -13,6 +13,8 @@ namespace sivane {
 class DateTime;
 class DescriptorBase;
 class Duration;
+class FieldList;
+class FieldVisitor;
 
 /// What is known of a field beside its value.
 struct Field {
@@ -20,6 +22,22 @@ struct Field {
   std::string_view member;  ///< in the C++ class
   int bits = 0;             ///< how wide a number or flag is in the section; 0 for every other kind
   bool in_documents = true;  ///< whether documents carry it
+};
+
+/// An entry or record that a visit has come to, without its class. It may be kept, and is good as long as the
+/// object that holds it stays as it is.
+class SIVANE_API FieldHolder {
+ public:
+  /// Tells the visitor every member.
+  void visit(FieldVisitor& visitor) const;
+
+  /// Internal: of an object whose fields `fields` names.
+  FieldHolder(void* object, void (*fields)(void* object, FieldList& list))
+      : object_(object), fields_(fields) {}
+
+ private:
+  void* object_;
+  void (*fields_)(void* object, FieldList& list);
 };
 
 /// Is told what a table, entry, descriptor or record holds, in the order of the documents: derive from it,
@@ -52,6 +70,12 @@ class SIVANE_API FieldVisitor {
   /// `end_descriptor`.
   virtual void begin_descriptor(std::string_view element, DescriptorBase const& descriptor);
   virtual void end_descriptor();  ///< of the descriptor begun last
+
+  /// An entry or record as a whole, for who does not want to be told all that is within. Unless overridden:
+  /// `begin_record`, its fields, `end_record`.
+  virtual void record(Field const& field, FieldHolder const& record);
+  /// The same of a descriptor.
+  virtual void descriptor(std::string_view element, DescriptorBase const& descriptor);
 
  protected:
   FieldVisitor() = default;

@@ -43,9 +43,8 @@ class TellValue {
   void operator()(Duration const* v) const { visitor_.duration(field_, *v); }
 
   void operator()(ApplicationIdentifier const* v) const {
-    visitor_.begin_record(field_);
-    v->visit(visitor_);
-    visitor_.end_record();
+    AnyObject const identifier(*v);
+    visitor_.record(field_, FieldHolder(identifier.object, identifier.fields));
   }
 
   void operator()(std::vector<std::string> const* v) const {
@@ -98,9 +97,7 @@ class Walk final : public FieldList {
   void date_child(FieldName const& name, DateTime& date) override { visitor_.date(name.field, date); }
 
   void record(Field const& field, AnyObject object) {
-    visitor_.begin_record(field);
-    object.fields(object.object, *this);
-    visitor_.end_record();
+    visitor_.record(field, FieldHolder(object.object, object.fields));
   }
 
   FieldVisitor& visitor_;
@@ -110,11 +107,8 @@ void visit_list(DescriptorGroups const& groups, std::string_view const* names, F
   std::size_t size = 0;
   DescriptorStorage::each(groups, [&size](int, DescriptorBase const&) { ++size; });
   visitor.begin_list({"descriptors", "descriptors"}, size);
-  DescriptorStorage::each(groups, [&](int row, DescriptorBase const& descriptor) {
-    visitor.begin_descriptor(names[row], descriptor);
-    descriptor.visit(visitor);
-    visitor.end_descriptor();
-  });
+  DescriptorStorage::each(
+      groups, [&](int row, DescriptorBase const& descriptor) { visitor.descriptor(names[row], descriptor); });
   visitor.end_list();
 }
 
@@ -124,6 +118,8 @@ void visit_fields(AnyObject object, FieldVisitor& visitor) {
   Walk walk(visitor);
   object.fields(object.object, walk);
 }
+
+void FieldHolder::visit(FieldVisitor& visitor) const { visit_fields(AnyObject(object_, fields_), visitor); }
 
 void visit_table(AnyTable const& table, FieldVisitor& visitor) {
   std::visit(
