@@ -5,11 +5,13 @@
 #include <pybind11/stl.h>
 #include <sivane/catalogue/catalogue.h>
 
+#include <cstdint>
 #include <memory>
 #include <string>
 
 #include "buffer.h"
 #include "catalogue_rows.h"
+#include "in_use.h"
 #include "selection.h"
 #include "stream_reader.h"
 #include "values.h"
@@ -24,35 +26,44 @@ namespace {
 class StreamCatalogue final : private SectionSink {
  public:
   StreamCatalogue(Selection const& selection, catalogue::Options const& options)
-      : known(options), reader_(selection, *this) {}
+      : known_(options), reader_(selection, *this) {}
 
   void push(py::handle data) {
     Buffer const buffer(data);
+    InUse::Claim const claim(in_use_);
     py::gil_scoped_release const unlocked;
     reader_.push(buffer.bytes().data(), buffer.bytes().size());
   }
   void finish() {
+    InUse::Claim const claim(in_use_);
     py::gil_scoped_release const unlocked;
     reader_.finish();
   }
 
-  catalogue::Catalogue known;
-  std::uint64_t failures = 0;  // sections that were refused
+  /// What is known, where no other thread adds to it.
+  catalogue::Catalogue const& known() const {
+    in_use_.check();
+    return known_;
+  }
+  std::uint64_t failures() const { return failures_; }
 
  private:
   void take(SectionView const& section) override try {
-    known.add(section.pid, section.bytes, section.size);
+    known_.add(section.pid, section.bytes, section.size);
   } catch (error const&) {
-    ++failures;
+    ++failures_;
   }
 
+  catalogue::Catalogue known_;
+  std::uint64_t failures_ = 0;  // sections that were refused
   StreamReader reader_;
+  InUse in_use_;
 };
 
 /// A property that is made of the catalogue each time.
 template <class Made>
 auto made_by(Made made) {
-  return [made](StreamCatalogue const& self) { return made(self.known); };
+  return [made](StreamCatalogue const& self) { return made(self.known()); };
 }
 
 }  // namespace
@@ -85,11 +96,12 @@ void add_catalogue(py::module_& module) {
       .def_property_readonly(
           "time",
           [](StreamCatalogue const& self) {
-            auto const time = self.known.time();
+            auto const time = self.known().time();
             return time ? date(*time) : py::none();
           },
           "The time that a TDT or TOT told last, or None.")
-      .def_readonly("failures", &StreamCatalogue::failures, "Sections that were refused, as for a wrong CRC.")
+      .def_property_readonly("failures", &StreamCatalogue::failures,
+                             "Sections that were refused, as for a wrong CRC.")
       .def_property_readonly("problems", made_by([](auto const& known) { return known.problems(); }),
                              "Broken descriptors and loops that were passed over.")
       .def_property_readonly("left_out", made_by([](auto const& known) { return known.left_out(); }),

@@ -28,18 +28,18 @@ py::object date_or_none(std::optional<Time> const& time) {
 }
 
 // A row of each kind.
-py::dict row(LocalName const& of);
-py::dict row(ConditionalAccess const& of);
-py::dict row(Delivery const& of);
-py::dict row(ListedService const& of);
-py::dict row(ChannelNumber const& of);
-py::dict row(EventItem const& of);
-py::dict row(EventText const& of);
-py::dict row(Genre const& of);
-py::dict row(Rating const& of);
-py::dict row(Component const& of);
-py::dict row(ContentId const& of);
-py::dict row(ElementaryStream const& of);
+py::dict row(LocalName const&);
+py::dict row(ConditionalAccess const&);
+py::dict row(Delivery const&);
+py::dict row(ListedService const&);
+py::dict row(ChannelNumber const&);
+py::dict row(EventItem const&);
+py::dict row(EventText const&);
+py::dict row(Genre const&);
+py::dict row(Rating const&);
+py::dict row(Component const&);
+py::dict row(ContentId const&);
+py::dict row(ElementaryStream const&);
 constexpr auto row_of = [](auto const& item) { return row(item); };
 
 py::dict row(LocalName const& name) {

@@ -3,7 +3,12 @@
 #include <pybind11/pybind11.h>
 
 #include "catalogue.h"
+#include "demux.h"
 #include "errors.h"
+#include "node.h"
+#include "section.h"
+#include "section_reader.h"
+#include "tables.h"
 #include "values.h"
 
 PYBIND11_MODULE(_sivane, module) {
@@ -12,5 +17,10 @@ PYBIND11_MODULE(_sivane, module) {
   module.attr("__version__") = SIVANE_VERSION;
   prepare_values();
   add_errors(module);
+  add_nodes(module);
+  add_sections(module);
+  add_tables(module);
+  add_section_reader(module);
+  add_demux(module);
   add_catalogue(module);
 }

@@ -22,6 +22,8 @@ class PacketNumbers {
     end_ = run.offset + static_cast<std::uint64_t>(run.count) * static_cast<std::uint64_t>(run.stride);
   }
 
+  /// Packets so far.
+  std::int64_t count() const { return count_; }
   /// From 0 on; -1 where that packet came too long ago.
   std::int64_t at(std::uint64_t offset) const {
     for (auto stretch = stretches_.rbegin(); stretch != stretches_.rend(); ++stretch) {

@@ -2,14 +2,96 @@
 # Copyright (c) 2026 the sivane authors
 """What is read of a whole stream."""
 
-from collections.abc import Iterable
+from collections.abc import Generator, Iterable, Iterator
+from types import TracebackType
 
-from . import _sources
-from ._sivane import Catalogue
+from ._sivane import Catalogue, Section, SectionReader
+from ._sources import Pieces, Source, open_source
+
+
+class Sections(Iterator[Section]):
+    """The sections of a stream, read as they are asked for.
+
+    A file that `sections` opened is closed at the end, by `close`, and at the end of a `with`.
+    """
+
+    def __init__(self, pieces: Pieces, reader: SectionReader) -> None:
+        self._pieces = pieces
+        self._reader = reader
+        self._sections = self._read()
+
+    def __iter__(self) -> Iterator[Section]:
+        return self._sections
+
+    def __next__(self) -> Section:
+        return next(self._sections)
+
+    def __enter__(self) -> "Sections":
+        return self
+
+    def __exit__(
+        self, kind: type[BaseException] | None, raised: BaseException | None, trace: TracebackType | None
+    ) -> None:
+        self.close()
+
+    def __del__(self) -> None:
+        self._pieces.close()
+
+    def close(self) -> None:
+        """Ends the reading."""
+        self._sections.close()
+        self._pieces.close()
+
+    @property
+    def packets(self) -> int:
+        """Packets that were found so far."""
+        return self._reader.packets
+
+    @property
+    def skipped_bytes(self) -> int:
+        """Bytes so far that belong to no packet."""
+        return self._reader.skipped_bytes
+
+    def _read(self) -> Generator[Section, None, None]:
+        with self._pieces:
+            for piece in self._pieces:
+                yield from self._reader.push(piece)
+            yield from self._reader.finish()
+
+
+def sections(
+    source: Source,
+    *,
+    registrations: Iterable[tuple[int, int]] | None = None,
+    every_section: bool = True,
+    tolerant: bool = False,
+    charset: str = "",
+    charset_always: str = "",
+) -> Sections:
+    """The sections of a stream, in the order in which they end.
+
+    `source` is a path, "-" for standard input, udp:// or rtp://, a file or another object with `read`, bytes, or an
+    iterable of bytes that are cut anywhere. Packets have 188, 192 or 204 bytes; bytes between them are skipped.
+
+    `registrations` are pairs of PID and table id; without them all tables that have a class are read, those included
+    whose PIDs other tables name. `every_section` follows ISO/IEC 13818-1, 2.4.4; without it the first section that
+    starts in each packet is read. With `tolerant` a table keeps what is whole of a broken section. `charset` is the
+    table of texts that select none, `charset_always` that of all texts, by the names of iconv.
+
+    Raises `OSError` where the source cannot be opened or read, and `Error`, at its end, where it held no packet.
+    """
+    reader = SectionReader(
+        registrations,
+        every_section=every_section,
+        tolerant=tolerant,
+        charset=charset,
+        charset_always=charset_always,
+    )
+    return Sections(open_source(source), reader)
 
 
 def catalogue(
-    source: _sources.Source,
+    source: Source,
     *,
     registrations: Iterable[tuple[int, int]] | None = None,
     every_section: bool = True,
@@ -18,12 +100,10 @@ def catalogue(
 ) -> Catalogue:
     """What a stream has: its `services`, `events`, `networks` and `programs`, each a list of dicts.
 
-    `source` is as in `sections`. Raises `OSError` where it cannot be read, and `Error` where it holds no packet.
+    The arguments are those of `sections`, and so is what it raises.
     """
-    known = Catalogue(
-        registrations, every_section=every_section, charset=charset, charset_always=charset_always
-    )
-    with _sources.open_source(source) as pieces:
+    known = Catalogue(registrations, every_section=every_section, charset=charset, charset_always=charset_always)
+    with open_source(source) as pieces:
         for piece in pieces:
             known.push(piece)
     known.finish()

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+// Copyright (c) 2026 the sivane authors
+#include "attributes.h"
+
+#include "values.h"
+
+namespace sivane::python {
+
+namespace py = pybind11;
+
+namespace {
+
+/// Looks for one field among those of an object, and converts nothing else.
+class AttributeFinder final : public FieldVisitor {
+ public:
+  AttributeFinder(Place const& place, std::string_view wanted) : place_(place), wanted_(wanted) {}
+
+  py::object found;
+
+ private:
+  void number(Field const& field, std::int64_t value) override {
+    give(field, [value] { return py::int_(value); });
+  }
+  void real(Field const& field, double value) override {
+    give(field, [value] { return py::float_(value); });
+  }
+  void flag(Field const& field, bool value) override {
+    give(field, [value] { return py::bool_(value); });
+  }
+  void text(Field const& field, std::string_view text) override {
+    give(field, [this, text] { return utf8(place_.held->settings->texts.utf8(text)); });
+  }
+  void string(Field const& field, std::string_view value) override {
+    give(field, [value] { return utf8(value); });
+  }
+  void code(Field const& field, std::string_view letters) override {
+    give(field, [letters] { return utf8(letters.substr(0, letters.find('\0'))); });
+  }
+  void bytes(Field const& field, unsigned char const* data, std::size_t size) override {
+    give(field, [data, size] { return python::bytes(data, size); });
+  }
+  void date(Field const& field, DateTime const& value) override {
+    give(field, [&value] { return python::date(value); });
+  }
+  void duration(Field const& field, Duration const& value) override {
+    give(field, [&value] { return python::duration(value); });
+  }
+
+  void begin_list(Field const& field, std::size_t size) override {
+    is_in_list_ = true;
+    if (field.member == wanted_) found = items_ = py::tuple(size);
+  }
+  void end_list() override {
+    is_in_list_ = false;
+    items_ = {};
+  }
+  void record(Field const& field, FieldHolder const& record) override {
+    give(field, [&] { return make_node({place_.held, record}); });
+  }
+  void descriptor(std::string_view element, DescriptorBase const& descriptor) override {
+    give({}, [&] { return make_node({place_.held, &descriptor, element}); });
+  }
+
+  /// The value, where it is the field or an item of the list that is wanted.
+  template <class Make>
+  void give(Field const& field, Make make) {
+    if (items_) {
+      PyTuple_SET_ITEM(items_.ptr(), next_++, py::object(make()).release().ptr());
+    } else if (!is_in_list_ && field.member == wanted_) {
+      found = make();
+    }
+  }
+
+  Place const& place_;
+  std::string_view wanted_;
+  bool is_in_list_ = false;
+  py::object items_;  // the list that is wanted, while it is told
+  Py_ssize_t next_ = 0;
+};
+
+class NameLister final : public FieldVisitor {
+ public:
+  py::list names;
+
+ private:
+  void number(Field const& field, std::int64_t) override { add(field); }
+  void real(Field const& field, double) override { add(field); }
+  void flag(Field const& field, bool) override { add(field); }
+  void text(Field const& field, std::string_view) override { add(field); }
+  void string(Field const& field, std::string_view) override { add(field); }
+  void code(Field const& field, std::string_view) override { add(field); }
+  void bytes(Field const& field, unsigned char const*, std::size_t) override { add(field); }
+  void date(Field const& field, DateTime const&) override { add(field); }
+  void duration(Field const& field, Duration const&) override { add(field); }
+  void begin_list(Field const& field, std::size_t) override { add(field); }
+  void record(Field const& field, FieldHolder const&) override { add(field); }
+  void descriptor(std::string_view, DescriptorBase const&) override {}
+
+  /// Items of lists have no names.
+  void add(Field const& field) {
+    if (!field.member.empty()) names.append(utf8(field.member));
+  }
+};
+
+}  // namespace
+
+py::object attribute(Place const& place, std::string_view name) {
+  AttributeFinder finder(place, name);
+  place.visit(finder);
+  return finder.found;
+}
+
+py::list attribute_names(Place const& place) {
+  NameLister lister;
+  place.visit(lister);
+  return lister.names;
+}
+
+}  // namespace sivane::python
