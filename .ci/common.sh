@@ -22,7 +22,7 @@ configure() {
 }
 
 # The build with g++ that several checks share.
-configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON; }
+configure_gcc() { configure build/ci/gcc -D CMAKE_CXX_COMPILER=g++ -D SIVANE_BUILD_FUZZERS=ON "$@"; }
 
 # The libraries over the core, as hosts ask for them.
 components=(dom charset catalogue)

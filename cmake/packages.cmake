@@ -1,5 +1,5 @@
 # What is installed, and the Debian packages that cpack makes of it: libsivane0.1 (component runtime), libsivane-dev
-# (development), those of each library over the core, and sivane-inspect (inspect). Configure with `--install-prefix /usr`
+# (development), those of each library over the core, sivane-inspect (inspect) and python3-sivane (python). Configure with `--install-prefix /usr`
 # for packages, so that the library goes where the distribution keeps its own.
 include(CMakePackageConfigHelpers)
 
@@ -124,6 +124,10 @@ if(TARGET sivane-inspect)
     "${SIVANE_RUNTIME_PACKAGE} (= ${PROJECT_VERSION})" "libsivane-charset${SIVANE_INTERFACE} (= ${PROJECT_VERSION})"
     "libsivane-catalogue${SIVANE_INTERFACE} (= ${PROJECT_VERSION})")
   set(CPACK_DEBIAN_INSPECT_PACKAGE_SHLIBDEPS ON)
+endif()
+
+if(TARGET sivane_python)
+  include(cmake/python_package.cmake)
 endif()
 
 set(CPACK_GENERATOR DEB)
