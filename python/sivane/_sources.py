@@ -47,12 +47,17 @@ class Pieces(Iterator[Bytes]):
     ) -> None:
         self.close()
 
+    def __del__(self) -> None:
+        self.close()
+
 
 def open_source(source: Source) -> Pieces:
     """The pieces of a source, none above `PIECE` bytes. What is opened here is closed by the pieces."""
     if isinstance(source, str) and _network.is_address(source):
         datagrams = _network.open_address(source)
         return Pieces(iter(datagrams), datagrams.close)
+    if isinstance(source, str) and source.startswith("dvb://"):
+        raise ValueError(f"{source}: sivane-inspect reads adapters; here open one's device, /dev/dvb/adapter0/dvr0 say")
     if source == "-":
         return Pieces(_read(sys.stdin.buffer))
     if isinstance(source, (str, os.PathLike)):

@@ -18,7 +18,7 @@ class Sections(Iterator[Section]):
     def __init__(self, pieces: Pieces, reader: SectionReader) -> None:
         self._pieces = pieces
         self._reader = reader
-        self._sections = self._read()
+        self._sections = _read(pieces, reader)
 
     def __iter__(self) -> Iterator[Section]:
         return self._sections
@@ -33,9 +33,6 @@ class Sections(Iterator[Section]):
         self, kind: type[BaseException] | None, raised: BaseException | None, trace: TracebackType | None
     ) -> None:
         self.close()
-
-    def __del__(self) -> None:
-        self._pieces.close()
 
     def close(self) -> None:
         """Ends the reading."""
@@ -52,11 +49,12 @@ class Sections(Iterator[Section]):
         """Bytes so far that belong to no packet."""
         return self._reader.skipped_bytes
 
-    def _read(self) -> Generator[Section, None, None]:
-        with self._pieces:
-            for piece in self._pieces:
-                yield from self._reader.push(piece)
-            yield from self._reader.finish()
+
+def _read(pieces: Pieces, reader: SectionReader) -> Generator[Section, None, None]:
+    with pieces:
+        for piece in pieces:
+            yield from reader.push(piece)
+        yield from reader.finish()
 
 
 def sections(

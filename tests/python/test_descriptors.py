@@ -1,0 +1,92 @@
+# SPDX-License-Identifier: MIT
+# Copyright (c) 2026 the sivane authors
+"""Descriptors of every class, from the case files, read through attributes."""
+
+import pytest
+import sivane
+from conftest import ROOT
+from plain import fields_of, plain
+from section_text import assemble, steps
+
+CASES = ROOT / "tests/descriptors"
+
+
+def bodies(folder, is_of_ait):
+    """The descriptors of the case files that are whole and fit into a section."""
+    for path in sorted((CASES / folder).glob("*.txt")):
+        if path.name.startswith("ait") != is_of_ait:
+            continue
+        for step in steps(path):
+            if "throws" not in step and "after" not in step:
+                yield assemble(step["hex"]), step.get("whose")
+
+
+def table_of(descriptor, is_of_ait, whose):
+    """A PMT or AIT with the descriptor, where its private_data_specifier is in force."""
+    loop = (f"5F[ {int(whose, 16):08X} ]" if whose else "") + descriptor.hex().upper()
+    body = f"F( {loop} ) F()" if is_of_ait else f"E100 F( {loop} )"
+    return sivane.parse(assemble(f"{'74' if is_of_ait else '02'} B( 0001 C1 00 00 {body} crc )"))
+
+
+@pytest.mark.parametrize("folder, is_of_ait", [("cases", False), ("cases", True), ("extended", False)])
+def test_every_class_reads_as_attributes(folder, is_of_ait):
+    seen = set()
+    for descriptor, whose in bodies(folder, is_of_ait):
+        table = table_of(descriptor, is_of_ait, whose)
+        one = next(one for one in table.descriptors if one.tag == descriptor[0])
+        assert (one.tag, one.length) == (descriptor[0], len(descriptor) - 2)
+        assert fields_of(table) == table.to_dict()
+        assert plain(one) == one.to_dict()
+        assert f"{one.tag:02x}" in one.dump() and one.element in repr(one)
+        own = one if one.content is None else one.content
+        assert repr(own).startswith(f"<sivane.{type(own).__name__} ")
+        seen.add(type(own))
+    SEEN.update(seen)
+    assert len(seen) > 10
+
+
+SEEN = set()
+
+
+def test_no_class_was_left_out():
+    classes = {value for value in vars(sivane).values() if isinstance(value, type)}
+    descriptors = {one for one in classes if issubclass(one, sivane.Descriptor)} - {sivane.Descriptor}
+    assert len(descriptors) > 83
+    assert descriptors - SEEN == set()
+
+
+@pytest.mark.parametrize("path", sorted((ROOT / "tests/tables/cases").glob("*.txt")), ids=lambda path: path.stem)
+def test_every_table_reads_as_attributes(path):
+    sections = [assemble(step["hex"]) for step in steps(path) if "throws" not in step]
+    assert sections
+    for section in sections:
+        table = sivane.parse(section, class_name=path.stem)
+        assert type(table) is getattr(sivane, path.stem)
+        assert fields_of(table) == table.to_dict()
+        assert table.table_id == section[0] and f"0x{section[0]:02x}" in repr(table)
+        assert set(table.to_dict()) and table.dump().startswith("table_id")
+
+
+def test_values_are_true_where_documents_have_signs():
+    table = sivane.parse(assemble("00 B( 1234 C1 00 00 0001 E100 crc )"))
+    assert isinstance(table, sivane.Pat)
+    assert 0 <= table.crc32 <= 0xFFFFFFFF
+    assert table.program_infos[0].program_map_pid == 0x100
+    assert table.to_dict()["program_infos"] == [{"sid": 1, "pmtpid": 0x100}]
+    assert table.program_infos is table.program_infos
+    with pytest.raises(AttributeError, match="no_such_field"):
+        table.no_such_field
+    with pytest.raises(AttributeError):
+        table.crc32 = 0
+    for made in [sivane.Pat, sivane.Descriptor, sivane.Section]:
+        with pytest.raises(TypeError):
+            made()
+
+
+def test_children_keep_their_table():
+    def service():
+        return sivane.parse(assemble('42 B( 0001 C1 00 00 0002 FF 0003 FC 8( 48[ 01 [ "A" ] [ "B" ] ] ) crc )'))
+
+    descriptor = service().service_infos[0].descriptors[0]
+    assert isinstance(descriptor, sivane.DescriptorService)
+    assert (descriptor.provider_name, descriptor.service_name) == ("A", "B")
