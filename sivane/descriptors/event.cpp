@@ -78,7 +78,7 @@ void DescriptorTimeShiftedEvent::_dump_state(std::ostream& os) const {
 
 DescriptorComponent::DescriptorComponent(DescriptorBytes d) : DescriptorBase(d) {
   Reader r = d.body();
-  r.skip_bits(4);
+  stream_content_ext = r.bits(4);
   stream_content = r.bits(4);
   component_type = r.u8();
   component_tag = r.u8();

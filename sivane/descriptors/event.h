@@ -71,6 +71,9 @@ class SIVANE_API DescriptorComponent final : public DescriptorBase {
   void _dump_state(std::ostream& os) const override;
   void _reset() override {}
 
+  /// 4 bits, of which `stream_content` 9 and above need to be understood; editions before V1.13.1 have
+  /// reserved bits in its place. Neither dumps nor documents have it.
+  int stream_content_ext = 0;
   int stream_content = 0;      ///< 4 bits
   int component_type = 0;      ///< 8 bits
   int component_tag = 0;       ///< 8 bits

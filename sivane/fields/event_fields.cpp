@@ -30,6 +30,7 @@ void DescriptorTimeShiftedEvent::_fields(FieldList& f) {
 }
 
 void DescriptorComponent::_fields(FieldList& f) {
+  f.add(UNSAVED(stream_content_ext), 4);
   f.add(FIELD(stream_content), 4);
   f.add(FIELD(component_type), 8);
   f.add(FIELD(component_tag), 8);

@@ -59,7 +59,7 @@ TEST(Visits, OfDescriptorsTellWhatDocumentsHoldAndTheRest) {
   each_descriptor_of_cases(
       [&](auto const&, auto const& descriptor) { unsaved.merge(check_visit(descriptor)); });
   EXPECT_EQ(unsaved, (Names{"component_tag", "country_availability_flag", "country_code", "id_selector_byte",
-                            "text"}));
+                            "stream_content_ext", "text"}));
 }
 
 template <class Visit>
