@@ -106,8 +106,12 @@ class SIVANE_API Catalogue {
   EventEntry const* following_event(ServiceKey const& service) const;  ///< by the present and following table
 
   /// The service's place in the viewer's list: as the actual network says, or else the first that says
-  /// something.
+  /// something. One for receivers of high definition alone is told where there is no other.
   std::optional<ChannelNumber> channel_number(ServiceKey const& service) const;
+  /// The authority of those content identifiers of the service that name none: as its SDT says, or else its
+  /// stream in a network, or else the network, the actual one first; empty where none says it (ETSI TS 102
+  /// 323, 6.3.3).
+  std::string default_authority(ServiceKey const& service) const;
   /// The CA systems that the SDT or, where it is in the stream that is read, the service's program names: 16
   /// bits each, rising.
   std::vector<int> ca_systems(ServiceKey const& service) const;

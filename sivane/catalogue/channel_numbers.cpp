@@ -12,9 +12,10 @@ namespace sivane::catalogue {
 namespace {
 
 template <class Services>
-void append(Services const& services, std::vector<ChannelNumber>& numbers) {
+void append(Services const& services, std::vector<ChannelNumber>& numbers, bool is_hd_simulcast = false) {
   for (auto const& service : services) {
-    numbers.push_back({service.service_id, service.logical_channel_number, service.visible_service_flag});
+    numbers.push_back(
+        {service.service_id, service.logical_channel_number, service.visible_service_flag, is_hd_simulcast});
   }
 }
 
@@ -29,6 +30,8 @@ std::vector<ChannelNumber> channel_numbers_of(DescriptorSet const& entry) {
   std::vector<ChannelNumber> numbers;
   for (DescriptorGeneral const& descriptor : entry.get_user_private_descriptors()) {
     if (auto const eacem = read<DescriptorLogicalChannel>(descriptor)) append(eacem->services, numbers);
+    if (auto const simulcast = read<DescriptorHDSimulcastLogicalChannel>(descriptor))
+      append(simulcast->services, numbers, true);
     if (auto const nordig = read<DescriptorNorDigLogicalChannel>(descriptor))
       append(nordig->services, numbers);
     if (auto const lists = read<DescriptorNorDigChannelLists>(descriptor)) {

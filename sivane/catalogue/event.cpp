@@ -13,4 +13,10 @@ std::string const& Event::title() const {
   return named == texts.end() ? none : named->title;
 }
 
+std::string ContentId::uri(std::string const& default_authority) const {
+  bool const has_authority = crid.front() != '/';
+  if (!has_authority && default_authority.empty()) return crid;
+  return "crid://" + (has_authority ? crid : default_authority + crid);
+}
+
 }  // namespace sivane::catalogue

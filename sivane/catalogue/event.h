@@ -5,6 +5,7 @@
 #include <sivane/catalogue/compared.h>
 #include <sivane/catalogue/times.h>
 #include <sivane/foundation/export.h>
+#include <sivane/registry/codes.h>
 
 #include <chrono>
 #include <optional>
@@ -38,6 +39,8 @@ struct Genre {
   int level_1 = 0;  ///< 4 bits
   int level_2 = 0;  ///< 4 bits
   int user = 0;     ///< 8 bits
+  /// In plain words; null where reserved or the broadcaster's own.
+  char const* name() const { return genre_name(level_1, level_2); }
   /// The members, as they are compared.
   auto tied() const { return std::tie(level_1, level_2, user); }
 };
@@ -57,19 +60,26 @@ struct Rating {
 
 /// A component of an event (ETSI EN 300 468, 6.2.8).
 struct Component {
-  int stream_content = 0;  ///< 4 bits
-  int type = 0;            ///< component_type, 8 bits
-  int tag = 0;             ///< component_tag, 8 bits
-  std::string language;    ///< ISO 639 code
-  std::string text;        ///< UTF-8
+  int stream_content = 0;      ///< 4 bits
+  int stream_content_ext = 0;  ///< 4 bits
+  int type = 0;                ///< component_type, 8 bits
+  int tag = 0;                 ///< component_tag, 8 bits
+  std::string language;        ///< ISO 639 code
+  std::string text;            ///< UTF-8
+  /// How it is coded, in plain words; null where that is reserved.
+  char const* coding_name() const { return component_coding_name(stream_content, stream_content_ext, type); }
   /// The members, as they are compared.
-  auto tied() const { return std::tie(stream_content, type, tag, language, text); }
+  auto tied() const { return std::tie(stream_content, stream_content_ext, type, tag, language, text); }
 };
 
 /// What a recorder knows a programme or series by (ETSI TS 102 323, 12.1).
 struct ContentId {
-  int type = 0;      ///< crid_type, 6 bits; 1 an item, 2 a series, 3 a recommendation
-  std::string crid;  ///< raw; without an authority it is one of the service's default authority
+  int type = 0;  ///< crid_type, 6 bits; 1 an item, 2 a series, 3 a recommendation
+  /// As it stands, but that bytes which a URI has none of are written as "%E9"; one that begins with "/" is
+  /// of the service's default authority (`Catalogue::default_authority`).
+  std::string crid;
+  /// The whole of it, as "crid://example.org/1"; as it stands where its authority is not known.
+  SIVANE_API std::string uri(std::string const& default_authority) const;
   /// The members, as they are compared.
   auto tied() const { return std::tie(type, crid); }
 };

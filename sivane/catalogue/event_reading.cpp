@@ -82,8 +82,9 @@ std::vector<Rating> ratings_of(Eit::EventInfo const& info) {
 std::vector<Component> components_of(Eit::EventInfo const& info, charset::Converter& converter) {
   std::vector<Component> components;
   for (auto const& descriptor : info.get_component_descriptors()) {
-    components.push_back({descriptor.stream_content, descriptor.component_type, descriptor.component_tag,
-                          code_text(descriptor.language_code), converter.utf8(descriptor.text)});
+    components.push_back({descriptor.stream_content, descriptor.stream_content_ext, descriptor.component_type,
+                          descriptor.component_tag, code_text(descriptor.language_code),
+                          converter.utf8(descriptor.text)});
   }
   return components;
 }
@@ -94,7 +95,7 @@ std::vector<ContentId> content_ids_of(Eit::EventInfo const& info) {
     auto const descriptor = extended::as<DescriptorContentIdentifier>(bytes, extended::Malformed::is_nothing);
     if (!descriptor) continue;
     for (auto const& one : descriptor->crids) {
-      if (!one.crid.empty()) ids.push_back({one.crid_type, one.crid});
+      if (!one.crid.empty()) ids.push_back({one.crid_type, uri_text(one.crid)});
     }
   }
   return ids;

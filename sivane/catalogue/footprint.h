@@ -11,6 +11,7 @@
 #include <sivane/catalogue/service.h>
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -32,6 +33,9 @@ inline std::size_t footprint(std::string const& text) {
 template <class Item>
 std::size_t footprint(std::vector<Item> const& items);
 
+template <class Item>
+std::size_t footprint(std::optional<Item> const& item);
+
 template <class Item, class = decltype(std::declval<Item const&>().tied())>
 std::size_t footprint(Item const& item) {
   auto const of_member = [](auto const& member) -> std::size_t {
@@ -47,6 +51,11 @@ std::size_t footprint(Item const& item) {
 }
 
 template <class Item>
+std::size_t footprint(std::optional<Item> const& item) {
+  return item ? footprint(*item) : 0;
+}
+
+template <class Item>
 std::size_t footprint(std::vector<Item> const& items) {
   std::size_t size = allocation(items.capacity() * sizeof(Item));
   if constexpr (!std::is_trivially_copyable_v<Item>) {
@@ -55,11 +64,17 @@ std::size_t footprint(std::vector<Item> const& items) {
   return size;
 }
 
+/// Of the node of a map or set that holds an `Entry`.
+template <class Entry>
+constexpr std::size_t node_footprint() {
+  constexpr std::size_t links = 4 * sizeof(void*);
+  return allocation(links + sizeof(Entry));
+}
+
 /// Of an entry of a map, its node included.
 template <class Key, class Value>
 std::size_t entry_footprint(Value const& value) {
-  constexpr std::size_t links = 4 * sizeof(void*);
-  return allocation(links + sizeof(std::pair<Key const, Value>)) + footprint(value);
+  return node_footprint<std::pair<Key const, Value>>() + footprint(value);
 }
 
 }  // namespace sivane::catalogue

@@ -24,16 +24,22 @@ struct Delivery {
   double orbital_position = 0;        ///< in degrees; satellite
   bool is_east = false;               ///< of Greenwich; satellite
   int polarization = 0;               ///< 2 bits, as coded; satellite
-  int modulation = 0;     ///< as coded: satellite 5 bits, cable 8 bits, terrestrial the constellation's 2
-  int inner_code = 0;     ///< as coded: FEC_inner of 4 bits, terrestrial code_rate_HP_stream of 3
-  int plp = -1;           ///< physical layer pipe of T2 and C2, 8 bits
-  int input_stream = -1;  ///< input_stream_identifier of S2 and S2X, 8 bits; -1 where none is given
+  int modulation = 0;       ///< as coded: satellite 5 bits, cable 8 bits, terrestrial the constellation's 2
+  int inner_code = 0;       ///< as coded: FEC_inner of 4 bits, terrestrial code_rate_HP_stream of 3
+  int guard_interval = -1;  ///< as coded: terrestrial 2 bits, T2 and C2 3 bits; -1 where none is given
+  int transmission_mode = -1;    ///< as coded: terrestrial 2 bits, T2 3 bits; -1 where none is given
+  double roll_off = 0;           ///< factor of S2X; 0 where reserved
+  int plp = -1;                  ///< physical layer pipe of T2 and C2, 8 bits
+  int t2_system = -1;            ///< T2_system_id, 16 bits
+  int data_slice = -1;           ///< of C2, 8 bits
+  int input_stream = -1;         ///< input_stream_identifier of S2 and S2X, 8 bits; -1 where none is given
   int scrambling_sequence = -1;  ///< scrambling_sequence_index of S2 and S2X, 18 bits; -1 where none is given
 
   /// The members, as they are compared.
   auto tied() const {
     return std::tie(system, frequency, symbol_rate, bandwidth, orbital_position, is_east, polarization,
-                    modulation, inner_code, plp, input_stream, scrambling_sequence);
+                    modulation, inner_code, guard_interval, transmission_mode, roll_off, plp, t2_system,
+                    data_slice, input_stream, scrambling_sequence);
   }
 };
 
@@ -47,11 +53,12 @@ struct ListedService {
 
 /// The place of a service in the viewer's list, in the forms of EACEM and NorDig.
 struct ChannelNumber {
-  int service = 0;         ///< service_id, 16 bits
-  int number = 0;          ///< logical_channel_number, 10 or 14 bits
-  bool is_visible = true;  ///< false where viewers are not shown it
+  int service = 0;               ///< service_id, 16 bits
+  int number = 0;                ///< logical_channel_number, 10 or 14 bits
+  bool is_visible = true;        ///< false where viewers are not shown it
+  bool is_hd_simulcast = false;  ///< for receivers of high definition alone, which show it in its place
   /// The members, as they are compared.
-  auto tied() const { return std::tie(service, number, is_visible); }
+  auto tied() const { return std::tie(service, number, is_visible, is_hd_simulcast); }
 };
 
 /// What a network or bouquet says of a transport stream.
@@ -59,9 +66,10 @@ struct TransportStream {
   std::vector<Delivery> deliveries;            ///< in the order of systems in `Delivery::System`
   std::vector<ListedService> services;         ///< in the order of the lists
   std::vector<ChannelNumber> channel_numbers;  ///< in the order of the descriptors
+  std::string default_authority;               ///< of its services' content identifiers; empty without
   std::vector<int> ca_systems;                 ///< that its entry names, 16 bits each, rising
   /// The members, as they are compared.
-  auto tied() const { return std::tie(deliveries, services, channel_numbers, ca_systems); }
+  auto tied() const { return std::tie(deliveries, services, channel_numbers, default_authority, ca_systems); }
 };
 
 /// A name in one language.
@@ -75,12 +83,13 @@ struct LocalName {
 
 /// A network or a bouquet, by its own loop.
 struct Network {
-  std::string name;              ///< UTF-8; empty where it has none
-  std::vector<LocalName> names;  ///< in several languages
-  bool is_actual = false;        ///< it is the one that sends what is read; of networks alone
-  std::vector<int> ca_systems;   ///< that its own loop names, 16 bits each, rising
+  std::string name;               ///< UTF-8; empty where it has none
+  std::vector<LocalName> names;   ///< in several languages
+  bool is_actual = false;         ///< it is the one that sends what is read; of networks alone
+  std::string default_authority;  ///< of its services' content identifiers; empty where it tells none
+  std::vector<int> ca_systems;    ///< that its own loop names, 16 bits each, rising
   /// The members, as they are compared.
-  auto tied() const { return std::tie(name, names, is_actual, ca_systems); }
+  auto tied() const { return std::tie(name, names, is_actual, default_authority, ca_systems); }
 };
 
 }  // namespace sivane::catalogue

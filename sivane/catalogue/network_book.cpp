@@ -9,6 +9,8 @@ namespace sivane::catalogue {
 
 namespace {
 
+constexpr std::size_t link_footprint = node_footprint<std::pair<StreamKey, int>>();
+
 std::string name_of(Nit const& nit, charset::Converter& text) {
   auto const& names = nit.get_network_name_descriptors();
   return names.empty() ? std::string() : text.utf8(names.front().network_name);
@@ -36,6 +38,8 @@ void read_head(Table const& table, bool starts_anew, charset::Converter& text, N
   if (std::string name = name_of(table, text); !name.empty()) network.name = std::move(name);
   if (auto names = local_names_of(table, text); starts_anew || !names.empty())
     network.names = std::move(names);
+  if (std::string authority = default_authority_of(table); starts_anew || !authority.empty())
+    network.default_authority = std::move(authority);
   std::vector<int> systems = ca_systems_of(table, table.ca_descriptors);
   if (!starts_anew) systems.insert(systems.end(), network.ca_systems.begin(), network.ca_systems.end());
   make_unique(systems);
@@ -62,9 +66,38 @@ Taken NetworkBook<Key, EntryKey>::take(Table const& table, bool starts_anew, Des
   taken.is_cut = !networks_.put(key, std::move(network), desk);
   for (auto const& entry : table.stream_infos) {
     StreamKey const stream = {entry.network_id, entry.stream_id};
-    taken.add(name_of(stream), streams_.put({table.context_id, stream}, stream_of(entry), desk));
+    taken.add(name_of(stream), put({table.context_id, stream}, stream_of(entry), desk));
   }
   return taken;
+}
+
+template <class Key, class EntryKey>
+bool NetworkBook<Key, EntryKey>::put(EntryKey const& key, TransportStream stream, Desk& desk) {
+  std::size_t const more = streams_.find(key) == nullptr ? link_footprint : 0;
+  if (!desk.budget.exchange(0, more)) return false;
+  if (!streams_.put(key, std::move(stream), desk)) {
+    desk.budget.free(more);
+    return false;
+  }
+  by_stream_.insert({key.stream, std::get<0>(key.tied())});
+  return true;
+}
+
+template <class Key, class EntryKey>
+void NetworkBook<Key, EntryKey>::erase(EntryKey const& key, Desk& desk) {
+  streams_.erase(key, desk);
+  if (by_stream_.erase({key.stream, std::get<0>(key.tied())}) > 0) desk.budget.free(link_footprint);
+}
+
+template <class Key, class EntryKey>
+std::vector<std::pair<Key, TransportStream const*>> NetworkBook<Key, EntryKey>::telling_of(
+    StreamKey const& stream) const {
+  std::vector<std::pair<Key, TransportStream const*>> telling;
+  for (auto link = by_stream_.lower_bound({stream, 0}); link != by_stream_.end() && link->first == stream;
+       ++link) {
+    telling.push_back({Key{link->second}, streams_.find({link->second, stream})});
+  }
+  return telling;
 }
 
 template <class Key, class EntryKey>
@@ -75,7 +108,7 @@ void NetworkBook<Key, EntryKey>::drop(SubTableKey table, Names const& gone, Desk
     bool const is_nit = table_id != bat_id;
     int const other = table_id == actual_nit_id ? other_nit_id : actual_nit_id;
     if (is_nit && desk.versions.has(with_table_id(table, other), name)) continue;
-    streams_.erase({network, stream_named(name)}, desk);
+    erase({network, stream_named(name)}, desk);
   }
 }
 

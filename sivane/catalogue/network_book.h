@@ -9,6 +9,10 @@
 #include <sivane/tables/bat.h>
 #include <sivane/tables/nit.h>
 
+#include <set>
+#include <utility>
+#include <vector>
+
 namespace sivane::catalogue {
 
 /// `Key` and `EntryKey` are those of a network or those of a bouquet.
@@ -23,10 +27,16 @@ class NetworkBook {
 
   Book<Key, Network> const& networks() const { return networks_; }
   Book<EntryKey, TransportStream> const& streams() const { return streams_; }
+  /// The networks, by id, that tell of the stream, and what they tell.
+  std::vector<std::pair<Key, TransportStream const*>> telling_of(StreamKey const& stream) const;
 
  private:
+  bool put(EntryKey const& key, TransportStream stream, Desk& desk);
+  void erase(EntryKey const& key, Desk& desk);
+
   Book<Key, Network> networks_;
   Book<EntryKey, TransportStream> streams_;
+  std::set<std::pair<StreamKey, int>> by_stream_;  // the keys of streams_ the other way round
 };
 
 using Networks = NetworkBook<NetworkKey, NetworkStreamKey>;

@@ -10,14 +10,28 @@ namespace {
 
 constexpr double mega = 1e6, giga = 1e9;
 
-Delivery delivery_of(DescriptorSatelliteDeliverySystem const& descriptor) {
+/// What the satellite's own descriptor and S2X have in common.
+template <class Descriptor>
+Delivery from_satellite(Delivery::System system, Descriptor const& descriptor) {
   Delivery delivery;
-  delivery.system = Delivery::System::satellite;
+  delivery.system = system;
   delivery.frequency = descriptor.frequency * giga;
   delivery.symbol_rate = descriptor.symbol_rate * mega;
   delivery.orbital_position = descriptor.orbital_position;
   delivery.is_east = descriptor.west_east_flag != 0;
   delivery.polarization = descriptor.polarization;
+  return delivery;
+}
+
+/// A centre_frequency in units of 10 Hz; none where a list of frequencies tells (ETSI EN 300 468, 6.2.13.4).
+std::optional<double> centre_frequency(unsigned long units) {
+  constexpr unsigned long undefined = 0xFFFFFFFF;
+  constexpr double unit = 10;
+  return units == undefined ? std::nullopt : std::optional<double>(static_cast<double>(units) * unit);
+}
+
+Delivery delivery_of(DescriptorSatelliteDeliverySystem const& descriptor) {
+  Delivery delivery = from_satellite(Delivery::System::satellite, descriptor);
   delivery.modulation = descriptor.modulation;
   delivery.inner_code = descriptor.FEC_inner;
   return delivery;
@@ -34,18 +48,16 @@ Delivery delivery_of(DescriptorCableDeliverySystem const& descriptor) {
 }
 
 Delivery delivery_of(DescriptorTerrestrialDeliverySystem const& descriptor) {
-  constexpr unsigned long undefined =
-      0xFFFFFFFF;  // where a list of frequencies tells (ETSI EN 300 468, 6.2.13.4)
-  constexpr double unit = 10, widest = 8;
+  constexpr double widest = 8;
   constexpr int narrowest = 3;
   Delivery delivery;
   delivery.system = Delivery::System::terrestrial;
-  if (descriptor.centre_frequency != undefined) {
-    delivery.frequency = static_cast<double>(descriptor.centre_frequency) * unit;
-  }
+  delivery.frequency = centre_frequency(descriptor.centre_frequency);
   if (descriptor.bandwidth <= narrowest) delivery.bandwidth = (widest - descriptor.bandwidth) * mega;
   delivery.modulation = descriptor.constellation;
   delivery.inner_code = descriptor.code_rate_HP_stream;
+  delivery.guard_interval = descriptor.guard_interval;
+  delivery.transmission_mode = descriptor.transmission_mode;
   return delivery;
 }
 
@@ -66,28 +78,25 @@ Delivery delivery_of(DescriptorS2SatelliteDeliverySystem const& descriptor) {
 }
 
 Delivery delivery_of(DescriptorS2XSatelliteDeliverySystem const& descriptor) {
-  Delivery delivery;
-  delivery.system = Delivery::System::satellite_s2x;
-  delivery.frequency = descriptor.frequency * giga;
-  delivery.symbol_rate = descriptor.symbol_rate * mega;
-  delivery.orbital_position = descriptor.orbital_position;
-  delivery.is_east = descriptor.west_east_flag != 0;
-  delivery.polarization = descriptor.polarization;
+  Delivery delivery = from_satellite(Delivery::System::satellite_s2x, descriptor);
+  delivery.roll_off = DescriptorS2XSatelliteDeliverySystem::get_roll_off(descriptor.roll_off);
   read_input(descriptor, delivery);
   return delivery;
 }
 
 /// Of several frequencies none is the stream's own.
 Delivery delivery_of(DescriptorT2DeliverySystem const& descriptor) {
-  constexpr double unit = 10;
   Delivery delivery;
   delivery.system = Delivery::System::terrestrial_t2;
   delivery.plp = descriptor.plp_id;
+  delivery.t2_system = descriptor.T2_system_id;
   if (descriptor.has_parameters) {
     delivery.bandwidth = DescriptorT2DeliverySystem::get_bandwidth(descriptor.bandwidth) * mega;
+    delivery.guard_interval = descriptor.guard_interval;
+    delivery.transmission_mode = descriptor.transmission_mode;
   }
   if (descriptor.cells.size() == 1 && descriptor.cells[0].centre_frequency.size() == 1) {
-    delivery.frequency = static_cast<double>(descriptor.cells[0].centre_frequency[0]) * unit;
+    delivery.frequency = centre_frequency(descriptor.cells[0].centre_frequency[0]);
   }
   return delivery;
 }
@@ -96,6 +105,8 @@ Delivery delivery_of(DescriptorC2DeliverySystem const& descriptor) {
   Delivery delivery;
   delivery.system = Delivery::System::cable_c2;
   delivery.plp = descriptor.plp_id;
+  delivery.data_slice = descriptor.data_slice_id;
+  delivery.guard_interval = descriptor.guard_interval;
   delivery.frequency = descriptor.C2_System_tuning_frequency;
   return delivery;
 }
@@ -137,6 +148,7 @@ TransportStream stream_of(DescriptorSet const& entry) {
     }
   }
   stream.channel_numbers = channel_numbers_of(entry);
+  stream.default_authority = default_authority_of(entry);
   stream.ca_systems = ca_systems_of(entry);
   return stream;
 }

@@ -17,12 +17,13 @@ bool has_general(PmtStreamInfo const& stream, int tag) {
                      [tag](auto const& other) { return other.tag == tag; });
 }
 
+/// The first of the class.
 template <class Descriptor>
-bool has_extended(PmtStreamInfo const& stream) {
-  auto const& descriptors = stream.get_general_descriptors();
-  return std::any_of(descriptors.begin(), descriptors.end(), [](auto const& bytes) {
-    return extended::as<Descriptor>(bytes, extended::Malformed::is_nothing).has_value();
-  });
+std::optional<Descriptor> find_extended(PmtStreamInfo const& stream) {
+  for (DescriptorGeneral const& bytes : stream.get_general_descriptors()) {
+    if (auto found = extended::as<Descriptor>(bytes, extended::Malformed::is_nothing)) return found;
+  }
+  return std::nullopt;
 }
 
 ElementaryStream::Coding coding_of(PmtStreamInfo const& stream) {
@@ -32,9 +33,9 @@ ElementaryStream::Coding coding_of(PmtStreamInfo const& stream) {
   if (has_general(stream, enhanced_ac3_tag)) return Coding::enhanced_ac3;
   if (has_general(stream, dts_tag)) return Coding::dts;
   if (has_general(stream, aac_tag)) return Coding::aac;
-  if (has_extended<DescriptorAC4>(stream)) return Coding::ac4;
+  if (find_extended<DescriptorAC4>(stream)) return Coding::ac4;
   if (!stream.get_subtitling_descriptors().empty()) return Coding::subtitles;
-  if (has_extended<DescriptorTTMLSubtitling>(stream)) return Coding::ttml;
+  if (find_extended<DescriptorTTMLSubtitling>(stream)) return Coding::ttml;
   if (!stream.get_teletext_descriptors().empty()) return Coding::teletext;
   bool const has_vbi =
       !stream.get_VBI_teletext_descriptors().empty() || !stream.get_VBI_data_descriptors().empty();
@@ -58,6 +59,16 @@ std::vector<std::string> languages_of(PmtStreamInfo const& stream) {
   return languages;
 }
 
+std::optional<SupplementaryAudio> supplementary_of(PmtStreamInfo const& stream) {
+  auto const descriptor = find_extended<DescriptorSupplementaryAudio>(stream);
+  if (!descriptor) return std::nullopt;
+  SupplementaryAudio audio;
+  audio.is_complete = descriptor->mix_type;
+  audio.classification = descriptor->editorial_classification;
+  if (descriptor->language_code_present) audio.language = code_text(descriptor->ISO_639_language_code);
+  return audio;
+}
+
 ElementaryStream stream_of(PmtStreamInfo const& info) {
   ElementaryStream stream;
   stream.pid = info.elementary_pid;
@@ -66,6 +77,7 @@ ElementaryStream stream_of(PmtStreamInfo const& info) {
   if (!identifiers.empty()) stream.component_tag = identifiers.front().component_tag;
   stream.coding = coding_of(info);
   stream.languages = languages_of(info);
+  stream.supplementary = supplementary_of(info);
   stream.access = access_of(info.get_CA_descriptors());
   return stream;
 }

@@ -30,6 +30,7 @@ Service service_of(Sdt::Service_info const& info, bool is_actual, charset::Conve
   service.has_schedule = info.EIT_schedule_flag != 0;
   service.has_present_following = info.EIT_present_following_flag != 0;
   service.is_actual = is_actual;
+  service.default_authority = default_authority_of(info);
   service.ca_systems = ca_systems_of(info);
   return service;
 }

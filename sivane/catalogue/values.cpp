@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/catalogue/values.h>
+#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 
@@ -13,6 +14,28 @@ std::string code_text(char const* code) {
     if (!is_letter) c = '?';
   }
   return text;
+}
+
+std::string uri_text(std::string const& bytes) {
+  constexpr char const* digits = "0123456789ABCDEF";
+  std::string text;
+  for (char const c : bytes) {
+    auto const byte = static_cast<unsigned char>(c);
+    if (c > ' ' && c < 0x7F) {
+      text += c;
+    } else {
+      text.append({'%', digits[byte >> 4], digits[byte & 0x0F]});
+    }
+  }
+  return text;
+}
+
+std::string default_authority_of(DescriptorSet const& set) {
+  for (DescriptorGeneral const& bytes : set.get_general_descriptors()) {
+    auto const descriptor = extended::as<DescriptorDefaultAuthority>(bytes, extended::Malformed::is_nothing);
+    if (descriptor) return uri_text(descriptor->default_authority);
+  }
+  return {};
 }
 
 std::vector<ConditionalAccess> access_of(std::vector<DescriptorCa> const& descriptors) {

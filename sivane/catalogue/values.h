@@ -18,6 +18,12 @@ namespace sivane::catalogue {
 /// A code of a language or country; what is no letter becomes "?", since it comes from the air.
 std::string code_text(char const* code);
 
+/// Part of a URI; bytes that it may not have become "%E9", since it comes from the air.
+std::string uri_text(std::string const& bytes);
+
+/// That the loop tells, of the first descriptor; empty where it tells none (ETSI TS 102 323, 6.3.3).
+std::string default_authority_of(DescriptorSet const& set);
+
 /// Rising, each once.
 template <class Item>
 void make_unique(std::vector<Item>& items) {

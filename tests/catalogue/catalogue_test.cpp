@@ -37,7 +37,7 @@ TEST(Catalogue, DescribesServices) {
 TEST(Catalogue, KnowsProgramsInAnyOrder) {
   Catalogue catalogue;
   std::string const pmt = R"(02 B( 0007 C1 00 00 E100 F( 09[ 0500 E1F5 ] )
-      1B E101 F() 06 E102 F( 52[ 31 ] 6A[ 00 ] 0A[ "fra" 00 "de1" 00 "fra" 00 ] 09[ 0100 E1F6 ] ) 06 E103 F( 59[ "eng" 10 0001 0002 ] ) crc ))";
+      1B E101 F() 06 E102 F( 52[ 31 ] 6A[ 00 ] 0A[ "fra" 00 "de1" 00 "fra" 00 ] 09[ 0100 E1F6 ] 7F[ 06 87 "eng" ] ) 06 E103 F( 59[ "eng" 10 0001 0002 ] ) crc ))";
   add(catalogue, pmt, 0x30);
   add(catalogue, sdt);
   add(catalogue, "00 B( 0002 C1 00 00 0000 E010 0007 E030 0009 E031 crc )", 0);
@@ -49,6 +49,9 @@ TEST(Catalogue, KnowsProgramsInAnyOrder) {
   EXPECT_EQ(program.streams.at(1).kind(), Kind::audio);
   EXPECT_EQ(program.streams.at(1).component_tag, 0x31);
   EXPECT_EQ(program.streams.at(1).languages, (std::vector<std::string>{"de?", "fra"}));
+  EXPECT_STREQ(program.streams.at(1).supplementary.value().purpose(), "audio description");
+  EXPECT_EQ(program.streams.at(1).supplementary->language, "eng");
+  EXPECT_FALSE(program.streams.at(2).supplementary);
   EXPECT_EQ(program.streams.at(2).kind(), Kind::subtitles);
   EXPECT_EQ(catalogue.ca_systems(service_7), (Numbers{0x100, 0x500}));
   EXPECT_FALSE(catalogue.find(catalogue::ProgramKey{9})->is_mapped);
@@ -97,15 +100,19 @@ TEST(Catalogue, KnowsWhereStreamsAreSent) {
 TEST(Catalogue, KnowsTheSecondGenerationOfDelivery) {
   Catalogue catalogue;
   add(catalogue,
-      nit("40", "7F[ 04 05 0001 0100 0009 03041840 00 ] 79[ C0 000007 03 ] 7F[ 0D 06 01 149E7A80 00 ]"));
+      nit("40", "7F[ 04 05 0001 0166 0009 03041840 00 ] 79[ C0 000007 03 ] 7F[ 0D 06 01 149E7A80 00 ]"));
   auto const& deliveries = catalogue.network_streams().at({3, {1, 2}}).deliveries;
   ASSERT_EQ(deliveries.size(), 3u);
   EXPECT_EQ(deliveries[0].plp, 5);
+  EXPECT_EQ(deliveries[0].t2_system, 1);
   EXPECT_DOUBLE_EQ(deliveries[0].bandwidth, 8e6);
+  EXPECT_EQ(deliveries[0].guard_interval, 3);
+  EXPECT_EQ(deliveries[0].transmission_mode, 1);
   EXPECT_DOUBLE_EQ(*deliveries[0].frequency, 506e6);
   EXPECT_EQ(deliveries[1].scrambling_sequence, 7);
   EXPECT_EQ(deliveries[1].input_stream, 3);
   EXPECT_EQ(deliveries[2].plp, 6);
+  EXPECT_EQ(deliveries[2].data_slice, 1);
   EXPECT_DOUBLE_EQ(*deliveries[2].frequency, 0x149E7A80);
 }
 
@@ -122,8 +129,28 @@ TEST(Catalogue, NumbersChannelsByTheSpecifierInForce) {
   EXPECT_EQ(number("5F[ 00000029 ] 83[ 0007 FC02 ]"), 0x3C02);
   EXPECT_EQ(number("5F[ 0000002A ] 83[ 0007 FC02 ]"), 0);
   EXPECT_EQ(number("83[ 0007 FC02 ]"), 0);
+  EXPECT_EQ(number("5F[ 00000028 ] 88[ 0007 FC20 ]"), 0x20);
+  EXPECT_EQ(number("5F[ 00000028 ] 88[ 0007 FC20 ] 83[ 0007 FC02 ]"), 2);
   EXPECT_EQ(number("5F[ 0000002A ] 83[ 0007 FC02 ] 5F[ 00000028 ] 83[ 0007 FC04 ]"), 4);
   EXPECT_EQ(number("5F[ 00000029 ] 87[ 01 [\"L\"] \"NOR\" [ 0007 FC05 ] ]"), 5);
+}
+
+TEST(Catalogue, NumbersChannelsAsTheNetworksThatAreLeftDo) {
+  Catalogue catalogue;
+  auto const numbers = [&](std::string const& head, std::string const& number) {
+    add(catalogue, head + " 00 00 F() F( 0002 0001 F( 5F[ 00000028 ] 83[ 0007 " + number + " ] ) ) crc )");
+    return catalogue.channel_number(service_7)->number;
+  };
+  EXPECT_EQ(numbers("41 F( 0004 C1", "FC04"), 4);
+  EXPECT_EQ(numbers("40 F( 0005 C1", "FC05"), 5);
+  EXPECT_EQ(numbers("41 F( 0003 C1", "FC03"), 5);
+  EXPECT_EQ(numbers("40 F( 0005 C3", "FC06"), 6);
+  add(catalogue, "40 F( 0005 C5 00 00 F() F() crc )");
+  EXPECT_EQ(catalogue.channel_number(service_7)->number, 3);
+  add(catalogue, "41 F( 0003 C3 00 00 F() F() crc )");
+  EXPECT_EQ(catalogue.channel_number(service_7)->number, 4);
+  add(catalogue, "41 F( 0004 C3 00 00 F() F() crc )");
+  EXPECT_FALSE(catalogue.channel_number(service_7));
 }
 
 TEST(Catalogue, TellsTheNamesAndStreamsOfBouquets) {

@@ -103,8 +103,8 @@ TEST(CatalogueEvents, HaveTheirTextsPutTogetherByLanguageAndNumber) {
       4E[ 12 "deu" [ [05 "Regie"] ["Z"] ] ["c"] ] 4E[ 02 "deu" [ [05 "Von"] ["Y"] ] ["a"] ]
       4E[ 12 "deu" [] ["twice"] ] 4E[ 00 "fra" [] ["f"] ] 4E[ 22 "deu" [] ["e"] ]
       4D[ "deu" [05 FC "ber"] ["kurz"] ] 4D[ "f/a" ["titre"] [] ]
-      54[ 14 2A ] 55[ "DEU" 09 ] 50[ 05 0B 07 "eng" "wide" ]
-      76[ 04 [ "/a" ] 09 0001 ] 76[ 08 [ "x.tv/b" ] ] 76[ 04 02 "c" ])")));
+      54[ 14 2A ] 55[ "DEU" 09 ] 50[ 15 0B 07 "eng" "wide" ] 50[ 09 05 08 "eng" ]
+      76[ 04 [ "/a" ] 09 0001 ] 76[ 08 [ "x.tv/b" E9 ] ] 76[ 04 02 "c" ])")));
   Event const& event = *catalogue.find({service_7, 1});
   ASSERT_EQ(event.texts.size(), 3u);
   catalogue::EventText const& german = event.texts[0];
@@ -117,8 +117,26 @@ TEST(CatalogueEvents, HaveTheirTextsPutTogetherByLanguageAndNumber) {
   EXPECT_EQ(event.texts[2].language + event.texts[2].extended_text, "fraf");
   EXPECT_EQ(event.genres, (std::vector<catalogue::Genre>{{1, 4, 0x2A}}));
   EXPECT_EQ(event.ratings[0].minimum_age(), 12);
-  EXPECT_EQ(event.components, (std::vector<catalogue::Component>{{5, 11, 7, "eng", "wide"}}));
-  EXPECT_EQ(event.content_ids, (std::vector<catalogue::ContentId>{{1, "/a"}, {2, "x.tv/b"}}));
+  EXPECT_EQ(event.components,
+            (std::vector<catalogue::Component>{{5, 1, 11, 7, "eng", "wide"}, {9, 0, 5, 8, "eng", ""}}));
+  EXPECT_STREQ(event.components[1].coding_name(), "HEVC video");
+  EXPECT_EQ(event.content_ids, (std::vector<catalogue::ContentId>{{1, "/a"}, {2, "x.tv/b%E9"}}));
+}
+
+TEST(CatalogueEvents, HaveIdentifiersOfTheNearestDefaultAuthority) {
+  Catalogue catalogue;
+  catalogue::ContentId const here = {1, "/a"}, elsewhere = {2, "x.tv/b"};
+  auto const uri = [&] { return here.uri(catalogue.default_authority(service_7)); };
+  EXPECT_EQ(uri(), "/a");
+  add(catalogue, "41 B( 0001 C1 00 00 F( 73[ \"other.tv\" ] ) F( 0002 0001 F() ) crc )");
+  EXPECT_EQ(uri(), "crid://other.tv/a");
+  add(catalogue, "40 B( 0003 C1 00 00 F( 73[ \"net.tv\" ] ) F( 0002 0001 F() ) crc )");
+  EXPECT_EQ(uri(), "crid://net.tv/a");
+  add(catalogue, "40 B( 0003 C3 00 00 F( 73[ \"net.tv\" ] ) F( 0002 0001 F( 73[ \"ts.tv\" ] ) ) crc )");
+  EXPECT_EQ(uri(), "crid://ts.tv/a");
+  add(catalogue, "42 B( 0002 C1 00 00 0001 FF 0007 FC 8( 73[ \"own.tv\" ] ) crc )");
+  EXPECT_EQ(uri(), "crid://own.tv/a");
+  EXPECT_EQ(elsewhere.uri("own.tv"), "crid://x.tv/b");
 }
 
 TEST(CatalogueEvents, KeepTheTextsOfATableThatTellsMoreOfTheSame) {

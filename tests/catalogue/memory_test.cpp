@@ -36,6 +36,26 @@ TEST(CatalogueMemory, IsWhatTheHeapHas) {
   EXPECT_LT(catalogue.memory() / catalogue.events().size(), 600u);
 }
 
+TEST(CatalogueMemory, OfNetworksIsWhatTheHeapHas) {
+  Catalogue catalogue;
+  std::size_t const before = mallinfo2().uordblks;
+  auto const add_section = [&](std::string const& head, int first, int streams) {
+    std::string text;
+    for (int stream = first; stream < first + streams; ++stream)
+      text += " " + std::to_string(stream) + " 0001 F( 5F[ 00000028 ] 83[ 0007 FC04 ] )";
+    add(catalogue, "40 F( 0005 " + head + " F() F(" + text + " ) crc )");
+  };
+  for (int number = 0; number < 4; ++number) {
+    add_section("C1 0" + std::to_string(number) + " 03", 1000 + number * 150, 150);
+  }
+  ASSERT_EQ(catalogue.network_streams().size(), 600u);
+  std::size_t const used = mallinfo2().uordblks - before, held = catalogue.memory();
+  add_section("C3 00 00", 1000, 1);
+  EXPECT_LT(catalogue.memory(), held / 20);
+  if (used == 0) GTEST_SKIP() << "this heap is not glibc's";
+  EXPECT_NEAR(static_cast<double>(held), static_cast<double>(used), static_cast<double>(used) / 20);
+}
+
 TEST(CatalogueMemory, IsBoundedAndFreedForWhatComesLater) {
   catalogue::Options options;
   options.memory = 8000;
