@@ -74,7 +74,7 @@ void write(Item const& item, std::string const& address, std::ostream& out) {
 }  // namespace
 
 void M3uCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x48, 0x5F, 0x83, 0x87});  // service, private data specifier, logical channel
+  options.build_only({0x48, 0x5F, 0x83, 0x87, 0x88});  // service, private data specifier, logical channel
 }
 
 bool M3uCommand::print(Catalogue const& catalogue, std::ostream& out) {

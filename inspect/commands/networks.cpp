@@ -36,11 +36,22 @@ std::string title(Kind const& kind, int id, std::string const& name) {
   return title + ": " + name;
 }
 
-std::string stream_line(StreamKey const& key, TransportStream const& stream) {
+bool is_of_first_generation(Delivery const& delivery) {
+  using System = Delivery::System;
+  return delivery.system == System::satellite || delivery.system == System::cable ||
+         delivery.system == System::terrestrial;
+}
+
+/// The delivery systems of the second generation have lines of their own.
+std::string stream_lines(StreamKey const& key, TransportStream const& stream) {
   std::string line = "  stream " + std::to_string(key.transport_stream) + " of network " +
                      numbered(sivane::get_original_network_id, key.original_network);
-  for (Delivery const& delivery : stream.deliveries) line += ": " + delivery_text(delivery);
-  return line;
+  std::string further;
+  for (Delivery const& delivery : stream.deliveries) {
+    bool const is_first = is_of_first_generation(delivery);
+    (is_first ? line : further) += (is_first ? ": " : "\n    ") + delivery_text(delivery);
+  }
+  return line + further;
 }
 
 /// Streams stand in the order of their groups.
@@ -51,7 +62,7 @@ void print_groups(Groups const& groups, Streams const& streams, Kind const& kind
     auto const [id] = key.tied();
     out << for_terminal(title(kind, id, group.name)) << '\n';
     for (; stream != streams.end() && std::get<0>(stream->first.tied()) == id; ++stream) {
-      out << for_terminal(stream_line(stream->first.stream, stream->second)) << '\n';
+      out << for_terminal(stream_lines(stream->first.stream, stream->second)) << '\n';
     }
   }
 }

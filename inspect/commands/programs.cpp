@@ -113,6 +113,23 @@ class Rows {
   std::set<int> listed_;
 };
 
+/// Below the PIDs, with an empty line between; nothing where all sound is the main one.
+void print_supplementary_audio(Catalogue const& catalogue, std::ostream& out) {
+  Columns columns({"program", "PID", "supplementary audio", "language", "heard"});
+  for (auto const& [key, program] : catalogue.programs()) {
+    for (ElementaryStream const& stream : program.streams) {
+      if (!stream.supplementary) continue;
+      SupplementaryAudio const& audio = *stream.supplementary;
+      columns.add({std::to_string(key.number), c_hexadecimal(stream.pid, 2), audio.purpose(),
+                   audio.language.empty() ? "-" : audio.language,
+                   audio.is_complete ? "by itself" : "mixed into the main audio"});
+    }
+  }
+  if (columns.empty()) return;
+  out << '\n';
+  columns.print(out);
+}
+
 }  // namespace
 
 void ProgramsCommand::choose_tags(sivane::ParseOptions& options) const {
@@ -139,8 +156,10 @@ bool ProgramsCommand::print(Catalogue const& catalogue, std::ostream& out) {
   Pids others;
   add_access(others, catalogue.access(), "EMM");
   rows.add_others(std::move(others));
-  if (!rows.columns().empty()) rows.columns().print(out);
-  return !rows.columns().empty();
+  if (rows.columns().empty()) return false;
+  rows.columns().print(out);
+  print_supplementary_audio(catalogue, out);
+  return true;
 }
 
 }  // namespace inspect

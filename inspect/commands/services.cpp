@@ -6,7 +6,7 @@
 
 #include <map>
 #include <ostream>
-#include <utility>
+#include <tuple>
 
 #include "text/hexadecimal.h"
 #include "text/names.h"
@@ -25,10 +25,15 @@ std::string running_text(int status) {
   return static_cast<std::size_t>(status) < std::size(texts) ? texts[status] : "-";
 }
 
-std::string type_text(int type) {
-  if (type < 0) return "-";
-  char const* const text = sivane::service_type_name(type);
-  return text == nullptr ? c_hexadecimal(type, 1) : text;
+std::string type_text(Service const& service) {
+  if (service.type < 0) return "-";
+  char const* const text = service.type_name();
+  return text == nullptr ? c_hexadecimal(service.type, 1) : text;
+}
+
+std::string shown_text(sivane::catalogue::ChannelNumber const& channel) {
+  std::string const shown = channel.is_visible ? "yes" : "no";
+  return channel.is_hd_simulcast ? shown + ", on HD receivers" : shown;
 }
 
 std::string access_text(Service const& service, std::vector<int> const& systems) {
@@ -39,21 +44,21 @@ std::string access_text(Service const& service, std::vector<int> const& systems)
 
 /// Below the services, with an empty line between; nothing where no network numbers channels.
 void print_channels(Catalogue const& catalogue, std::ostream& out) {
-  std::map<std::pair<int, ServiceKey>, bool> channels;
+  std::map<std::tuple<int, ServiceKey, bool>, std::string> channels;
   for (auto const& [key, stream] : catalogue.network_streams()) {
     for (auto const& channel : stream.channel_numbers) {
       ServiceKey const service = {key.stream.original_network, key.stream.transport_stream, channel.service};
-      channels.try_emplace({channel.number, service}, channel.is_visible);
+      channels.try_emplace({channel.number, service, channel.is_hd_simulcast}, shown_text(channel));
     }
   }
   if (channels.empty()) return;
   Columns columns({"channel", "network", "stream", "service", "name", "shown"});
-  for (auto const& [channel, is_visible] : channels) {
-    auto const& [number, key] = channel;
+  for (auto const& [channel, shown] : channels) {
+    auto const& [number, key, is_hd_simulcast] = channel;
     Service const* const service = catalogue.find(key);
     columns.add({std::to_string(number), std::to_string(key.original_network),
                  std::to_string(key.transport_stream), std::to_string(key.service),
-                 service == nullptr ? "-" : service->name, is_visible ? "yes" : "no"});
+                 service == nullptr ? "-" : service->name, shown});
   }
   out << '\n';
   columns.print(out);
@@ -62,7 +67,7 @@ void print_channels(Catalogue const& catalogue, std::ostream& out) {
 }  // namespace
 
 void ServicesCommand::choose_tags(sivane::ParseOptions& options) const {
-  options.build_only({0x48, 0x53, 0x09, 0x83, 0x87});  // service, CA identifier, CA, channel numbers
+  options.build_only({0x48, 0x53, 0x09, 0x83, 0x87, 0x88});  // service, CA identifier, CA, channel numbers
 }
 
 bool ServicesCommand::print(sivane::catalogue::Catalogue const& catalogue, std::ostream& out) {
@@ -70,7 +75,7 @@ bool ServicesCommand::print(sivane::catalogue::Catalogue const& catalogue, std::
   for (auto const& [key, service] : catalogue.services()) {
     columns.add({numbered(sivane::get_original_network_id, key.original_network),
                  std::to_string(key.transport_stream), std::to_string(key.service), service.name,
-                 service.provider, type_text(service.type), running_text(service.running_status),
+                 service.provider, type_text(service), running_text(service.running_status),
                  access_text(service, catalogue.ca_systems(key))});
   }
   if (columns.empty()) return false;

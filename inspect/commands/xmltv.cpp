@@ -2,8 +2,6 @@
 // Copyright (c) 2026 the sivane authors
 #include "commands/xmltv.h"
 
-#include <sivane/registry/codes.h>
-
 #include <ostream>
 #include <set>
 #include <string>
@@ -87,7 +85,7 @@ void write_texts(std::vector<EventText> const& texts, std::ostream& out) {
 void write_genres(std::vector<Genre> const& genres, std::ostream& out) {
   std::set<std::string_view> written;
   for (Genre const& genre : genres) {
-    char const* const name = sivane::genre_name(genre.level_1, genre.level_2);
+    char const* const name = genre.name();
     if (name != nullptr && written.insert(name).second) write(out, "category", name, "lang", "en");
   }
 }
@@ -118,7 +116,7 @@ bool is_listed(Event const& event) { return event.start && !event.title().empty(
 
 void XmltvCommand::choose_tags(sivane::ParseOptions& options) const {
   // service, short and extended event, content, parental rating, private data specifier, logical channel
-  options.build_only({0x48, 0x4D, 0x4E, 0x54, 0x55, 0x5F, 0x83, 0x87});
+  options.build_only({0x48, 0x4D, 0x4E, 0x54, 0x55, 0x5F, 0x83, 0x87, 0x88});
 }
 
 bool XmltvCommand::print(Catalogue const& catalogue, std::ostream& out) {

@@ -2,7 +2,6 @@
 // Copyright (c) 2026 the sivane authors
 #include "report/stream_facts.h"
 
-#include <sivane/registry/codes.h>
 #include <sivane/registry/registry.h>
 
 #include <string>
@@ -73,10 +72,10 @@ std::map<int, std::string> contents_of(Catalogue const& catalogue) {
   return contents;
 }
 
-std::string type_text(int type) {
-  if (type < 0) return "";
-  char const* const text = sivane::service_type_name(type);
-  return text == nullptr ? c_hexadecimal(type, 1) : text;
+std::string type_text(Service const& service) {
+  if (service.type < 0) return "";
+  char const* const text = service.type_name();
+  return text == nullptr ? c_hexadecimal(service.type, 1) : text;
 }
 
 void write_course(JsonWriter& json, RateCourse const& course, int pid) {
@@ -114,7 +113,7 @@ void write_services(JsonWriter& json, Catalogue const& catalogue) {
     json.member("service", key.service);
     json.member("name", service.name);
     json.member("provider", service.provider);
-    json.member("type", type_text(service.type));
+    json.member("type", type_text(service));
     json.key("scrambled");
     json.flag(service.is_scrambled);
     json.key("actual");

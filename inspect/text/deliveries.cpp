@@ -41,6 +41,7 @@ void write_place(std::ostream& text, Delivery const& delivery) {
 
 void write_s2x(std::ostream& text, Delivery const& delivery) {
   write_place(text << "DVB-S2X ", delivery);
+  if (delivery.roll_off > 0) text << ", roll-off " << delivery.roll_off;
   write_input(text, delivery);
 }
 
@@ -49,7 +50,22 @@ void write_pipe(std::ostream& text, char const* system, Delivery const& delivery
   text << system;
   if (delivery.frequency) text << ' ' << megahertz(*delivery.frequency);
   text << ", PLP " << delivery.plp;
+}
+
+void write_t2(std::ostream& text, Delivery const& delivery) {
+  using Codes = sivane::DescriptorT2DeliverySystem;
+  write_pipe(text, "DVB-T2", delivery);
+  text << ", T2 system " << delivery.t2_system;
   if (delivery.bandwidth > 0) text << ", " << delivery.bandwidth / mega << " MHz wide";
+  if (delivery.transmission_mode >= 0)
+    text << ", mode " << Codes::get_transmission_mode_text(delivery.transmission_mode);
+  if (delivery.guard_interval >= 0)
+    text << ", guard interval " << Codes::get_guard_interval_text(delivery.guard_interval);
+}
+
+void write_c2(std::ostream& text, Delivery const& delivery) {
+  write_pipe(text, "DVB-C2", delivery);
+  text << ", data slice " << delivery.data_slice;
 }
 
 void write_satellite(std::ostream& text, Delivery const& delivery) {
@@ -97,10 +113,10 @@ std::string delivery_text(Delivery const& delivery) {
       write_s2x(text, delivery);
       break;
     case Delivery::System::terrestrial_t2:
-      write_pipe(text, "DVB-T2", delivery);
+      write_t2(text, delivery);
       break;
     case Delivery::System::cable_c2:
-      write_pipe(text, "DVB-C2", delivery);
+      write_c2(text, delivery);
       break;
   }
   return text.str();

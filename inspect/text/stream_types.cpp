@@ -2,8 +2,6 @@
 // Copyright (c) 2026 the sivane authors
 #include "text/stream_types.h"
 
-#include <sivane/registry/codes.h>
-
 #include "text/hexadecimal.h"
 
 namespace inspect {
@@ -47,7 +45,7 @@ char const* text_of_private(ElementaryStream::Coding coding) {
 std::string stream_type_text(ElementaryStream const& stream) {
   bool const is_private = stream.stream_type == private_pes;
   if (char const* const text = is_private ? text_of_private(stream.coding) : nullptr) return text;
-  char const* const text = sivane::stream_type_name(stream.stream_type);
+  char const* const text = stream.type_name();
   return text != nullptr ? text : "stream type " + c_hexadecimal(stream.stream_type, 1);
 }
 
