@@ -32,9 +32,7 @@ class Table {
   void save(void* document, void* element) const {
     each([&](auto const& table) { table.SaveSection(document, element); });
   }
-  void visit(sivane::FieldVisitor& visitor) const {
-    each([&](auto const& table) { table.visit(visitor); });
-  }
+  void visit(sivane::FieldVisitor& visitor) const { sivane::visit_table(table_, visitor); }
   int table_id() const {
     int id = -1;
     each([&id](auto const& table) { id = table.table_id; });
@@ -42,11 +40,7 @@ class Table {
   }
   std::string_view class_name() const { return sivane::class_name(table_); }
 
-  /// The object itself; null where it is of another class.
-  template <class Class>
-  Class const* as() const {
-    return std::get_if<Class>(&table_);
-  }
+  sivane::AnyTable const& any() const { return table_; }
 
  private:
   template <class Self, class Act>
@@ -68,12 +62,5 @@ class Table {
 
   sivane::AnyTable table_;
 };
-
-/// The object itself; null where it is of another class, or sent ahead of the time from which it applies.
-template <class Class>
-Class const* current_as(Table const& table) {
-  Class const* const same = table.as<Class>();
-  return same != nullptr && same->current_next_indicator == 1 ? same : nullptr;
-}
 
 }  // namespace inspect

@@ -2,8 +2,9 @@
 // Copyright (c) 2026 the sivane authors
 #include <sivane/catalogue/catalogue.h>
 #include <sivane/catalogue/state.h>
-#include <sivane/tables/tdt.h>
-#include <sivane/tables/tot.h>
+
+#include <type_traits>
+#include <variant>
 
 namespace sivane::catalogue {
 
@@ -24,7 +25,21 @@ Changes Catalogue::add(Sdt const& sdt) { return state_->add(sdt); }
 Changes Catalogue::add(Eit const& eit) { return state_->add(eit); }
 Changes Catalogue::add(Rst const& rst) { return state_->add(rst); }
 Changes Catalogue::add(Tdt const& tdt) { return state_->set_time(tdt.UTC_time); }
-Changes Catalogue::add(Tot const& tot) { return state_->set_time(tot.UTC_time); }
+Changes Catalogue::add(Tot const& tot) { return state_->add(tot); }
+Changes Catalogue::add(AnyTable const& table) {
+  return std::visit(
+      [this](auto const& one) -> Changes {
+        using Table = std::decay_t<decltype(one)>;
+        constexpr bool is_passed_over = std::is_same_v<Table, std::monostate> || std::is_same_v<Table, Ait> ||
+                                        std::is_same_v<Table, DsmCC>;
+        if constexpr (is_passed_over) {
+          return {};
+        } else {
+          return add(one);
+        }
+      },
+      table);
+}
 
 Changes Catalogue::forget_events_before(Time time) {
   state_->events.forget_before(time, state_->desk);

@@ -11,6 +11,7 @@
 #include <sivane/catalogue/times.h>
 #include <sivane/charset/charset.h>
 #include <sivane/foundation/export.h>
+#include <sivane/tables/any_table.h>
 
 #include <cstddef>
 #include <map>
@@ -18,19 +19,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-namespace sivane {
-class Bat;
-class Cat;
-class Eit;
-class Nit;
-class Pat;
-class Pmt;
-class Rst;
-class Sdt;
-class Tdt;
-class Tot;
-}  // namespace sivane
 
 namespace sivane::catalogue {
 
@@ -81,17 +69,20 @@ class SIVANE_API Catalogue {
   Changes add(Eit const& eit);  ///< events
   Changes add(Rst const& rst);  ///< which events run
   Changes add(Tdt const& tdt);  ///< the time
-  Changes add(Tot const& tot);  ///< the time
+  Changes add(Tot const& tot);  ///< the time, and local times
+  /// A table of whichever class. None, an AIT and sections of DSM-CC are passed over.
+  Changes add(AnyTable const& table);
 
   std::map<NetworkKey, Network> const& networks() const;                       ///< by network_id
   std::map<NetworkStreamKey, TransportStream> const& network_streams() const;  ///< what networks consist of
   std::map<BouquetKey, Network> const& bouquets() const;                       ///< by bouquet_id
   std::map<BouquetStreamKey, TransportStream> const& bouquet_streams() const;  ///< what bouquets consist of
-  std::map<ServiceKey, Service> const& services() const;  ///< those that an SDT describes
-  std::map<ProgramKey, Program> const& programs() const;  ///< of the stream that is read
-  std::map<EventKey, Event> const& events() const;        ///< by service and event_id
-  std::vector<ConditionalAccess> const& access() const;   ///< by the CAT
-  std::optional<Time> time() const;                       ///< that a TDT or TOT told last
+  std::map<ServiceKey, Service> const& services() const;           ///< those that an SDT describes
+  std::map<ProgramKey, Program> const& programs() const;           ///< of the stream that is read
+  std::map<EventKey, Event> const& events() const;                 ///< by service and event_id
+  std::vector<ConditionalAccess> const& access() const;            ///< by the CAT
+  std::optional<Time> time() const;                                ///< that a TDT or TOT told last
+  std::vector<LocalTimeOffset> const& local_time_offsets() const;  ///< that a TOT told last
 
   /// Null where it is not known; likewise below.
   Service const* find(ServiceKey const& key) const;

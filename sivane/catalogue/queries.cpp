@@ -20,6 +20,7 @@ std::map<ProgramKey, Program> const& Catalogue::programs() const { return state_
 std::map<EventKey, Event> const& Catalogue::events() const { return state_->events.events().all(); }
 std::vector<ConditionalAccess> const& Catalogue::access() const { return state_->access; }
 std::optional<Time> Catalogue::time() const { return state_->time; }
+std::vector<LocalTimeOffset> const& Catalogue::local_time_offsets() const { return state_->local_times; }
 
 Service const* Catalogue::find(ServiceKey const& key) const { return state_->services.services().find(key); }
 Event const* Catalogue::find(EventKey const& key) const { return state_->events.events().find(key); }

@@ -103,8 +103,8 @@ Changes Catalogue::State::parse_short(unsigned char const* section, std::size_t 
     return set_time(tdt.UTC_time);
   }
   Tot tot;
-  parse(section, size, {}, tot);
-  return set_time(tot.UTC_time);
+  parse(section, size, {0x58}, tot);
+  return add(tot);
 }
 
 }  // namespace sivane::catalogue

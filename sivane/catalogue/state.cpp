@@ -39,6 +39,14 @@ Changes Catalogue::State::add(Rst const& rst) {
   return told();
 }
 
+Changes Catalogue::State::add(Tot const& tot) {
+  std::vector<LocalTimeOffset> told = local_times_of(tot);
+  if (told != local_times && desk.budget.exchange(footprint(local_times), footprint(told))) {
+    local_times = std::move(told);
+  }
+  return set_time(tot.UTC_time);
+}
+
 Changes Catalogue::State::set_time(DateTime const& utc) {
   if (auto const told_time = time_of(utc)) time = told_time;
   return {};

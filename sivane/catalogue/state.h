@@ -26,6 +26,7 @@ struct Catalogue::State {
   Changes add(Table const& table);
   /// One of short form, which has no version.
   Changes add(Rst const& rst);
+  Changes add(Tot const& tot);
   Changes set_time(DateTime const& utc);
   Changes add_section(int pid, unsigned char const* section, std::size_t size);
   /// What the desk noted.
@@ -40,6 +41,7 @@ struct Catalogue::State {
   EventBook events;
   std::vector<ConditionalAccess> access;
   std::optional<Time> time;
+  std::vector<LocalTimeOffset> local_times;
   std::size_t problems = 0;
 
  private:

@@ -6,16 +6,30 @@
 // above 59.
 #pragma once
 
+#include <sivane/catalogue/compared.h>
 #include <sivane/foundation/export.h>
 #include <sivane/foundation/time.h>
 
 #include <chrono>
 #include <optional>
+#include <string>
+#include <tuple>
 
 namespace sivane::catalogue {
 
 /// UTC, in whole seconds.
 using Time = std::chrono::time_point<std::chrono::system_clock, std::chrono::seconds>;
+
+/// How far the clocks of a region are from UTC (ETSI EN 300 468, 6.2.20).
+struct LocalTimeOffset {
+  std::string country;                  ///< ISO 3166 code
+  int region = 0;                       ///< country_region_id, 6 bits; 0 the country is one
+  std::chrono::minutes offset{0};       ///< now; below 0 west of Greenwich
+  std::optional<Time> change;           ///< from when on the next one holds; none where undefined
+  std::chrono::minutes next_offset{0};  ///< from then on
+  /// The members, as they are compared.
+  auto tied() const { return std::tie(country, region, offset, change, next_offset); }
+};
 
 /// The point of time of a date read from a section. The 16 bits of its Modified Julian Date end in April
 /// 2038: those with a clear high bit, before August 1948, are taken for days of the next era, 65536 days

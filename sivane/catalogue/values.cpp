@@ -38,6 +38,24 @@ std::string default_authority_of(DescriptorSet const& set) {
   return {};
 }
 
+std::vector<LocalTimeOffset> local_times_of(DescriptorSet const& set) {
+  std::vector<LocalTimeOffset> local;
+  for (auto const& descriptor : set.get_local_time_offset_descriptors()) {
+    for (auto const& told : descriptor.localtime) {
+      auto const east_of_utc = [&told](TimeOffset const& offset) {
+        std::chrono::minutes const size =
+            std::chrono::hours(offset.hour) + std::chrono::minutes(offset.minute);
+        return told.local_time_offset_polarity == 0 ? size : -size;
+      };
+      local.push_back({code_text(told.country_code), told.country_region_id,
+                       east_of_utc(told.local_time_offset), time_of(told.time_of_change),
+                       east_of_utc(told.next_time_offset)});
+    }
+  }
+  local.shrink_to_fit();
+  return local;
+}
+
 std::vector<ConditionalAccess> access_of(std::vector<DescriptorCa> const& descriptors) {
   std::vector<ConditionalAccess> access;
   access.reserve(descriptors.size());

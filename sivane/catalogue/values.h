@@ -6,6 +6,7 @@
 
 #include <sivane/catalogue/network.h>
 #include <sivane/catalogue/program.h>
+#include <sivane/catalogue/times.h>
 #include <sivane/charset/charset.h>
 #include <sivane/descriptors/descriptor_set.h>
 
@@ -31,6 +32,8 @@ void make_unique(std::vector<Item>& items) {
   items.erase(std::unique(items.begin(), items.end()), items.end());
   items.shrink_to_fit();
 }
+
+std::vector<LocalTimeOffset> local_times_of(DescriptorSet const& set);
 
 std::vector<ConditionalAccess> access_of(std::vector<DescriptorCa> const& descriptors);
 

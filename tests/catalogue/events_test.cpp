@@ -186,6 +186,22 @@ TEST(CatalogueTimes, AreNoneWhereUndefined) {
   EXPECT_EQ(catalogue.time()->time_since_epoch().count(), (0x7FFF + 0x10000 - 40587) * 86400LL + 1);
 }
 
+TEST(CatalogueTimes, AreLocalToRegions) {
+  using namespace std::chrono_literals;
+  Catalogue catalogue;
+  add(catalogue,
+      "73 7( E8A8 120000 F( 58[ \"DEU\" 00 0100 E8A9 010000 0200 \"PRT\" 0B 0130 FFFF FFFFFF 0000 ] ) crc )");
+  auto const& local = catalogue.local_time_offsets();
+  auto const now = *catalogue.time();
+  ASSERT_EQ(local.size(), 2u);
+  EXPECT_EQ(local[0], (catalogue::LocalTimeOffset{"DEU", 0, 60min, now + 13h, 120min}));
+  EXPECT_EQ(local[1], (catalogue::LocalTimeOffset{"PRT", 2, -90min, std::nullopt, 0min}));
+  std::size_t const held = catalogue.memory();
+  add(catalogue, "73 7( E8A8 120000 F() crc )");
+  EXPECT_LT(catalogue.memory(), held);
+  EXPECT_TRUE(local.empty());
+}
+
 TEST(CatalogueEvents, ThatArePastAreForgottenOnRequest) {
   Catalogue catalogue;
   add(catalogue,
