@@ -64,6 +64,8 @@ constexpr MeasureRow rows[] = {
      "all sections up to the last one, once those that come have come three times"},
     {M::missing_segment, "Missing_segment", 0, "", Need::nothing,
      "all segments of a schedule from the first one that came on"},
+    {M::missing_table, "Missing_table", 0, "", Need::nothing,
+     "all tables of a schedule from the first one that came to its last_table_id"},
     {M::failed_section, "Failed_section", 0, "", Need::nothing, "each section can be read"},
     {M::failed_descriptor, "Failed_descriptor", 0, "", Need::nothing, "each descriptor can be read"},
     {M::missing_pid, "Missing_PID", 0, "", Need::nothing, "a packet of each PID that a PAT or PMT names"},

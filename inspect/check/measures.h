@@ -39,6 +39,7 @@ enum class Measure {
   version_back,
   missing_section,
   missing_segment,
+  missing_table,
   failed_section,
   failed_descriptor,
   missing_pid,

@@ -20,6 +20,7 @@ struct SectionSight {
   int number = 0;               ///< section_number
   int last_number = 0;          ///< last_section_number
   int segment_last_number = 0;  ///< segment_last_section_number of an EIT
+  int last_table = 0;           ///< last_table_id of an EIT
   std::uint64_t begin = 0;      ///< offset of the packet in which it began
   bool has_changed = false;     ///< its content, although its version has not
   std::vector<unsigned char> content = {};  ///< the section, where it is not what came in its place before

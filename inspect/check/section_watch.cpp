@@ -80,6 +80,7 @@ void SectionWatch::describe(SectionSight& sight, int pid, unsigned char const* s
     sight.transport_stream = word(section + 8);
     sight.original_network = word(section + 10);
     sight.segment_last_number = section[12];
+    sight.last_table = section[13];
   }
   using Sighting = sivane::SeenSections::Sighting;
   Sighting const sighting = known_.see(pid, section);

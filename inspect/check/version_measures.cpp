@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "check/subject_texts.h"
+#include "text/hexadecimal.h"
 
 namespace inspect {
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int versions = 32;
 constexpr int sections_of_segment = 8;
+constexpr int tables_of_schedule = 16;
 constexpr std::uint64_t enough_cycles = 3;
 
 /// Whether it is not a few steps forward, over the end of the range.
@@ -34,6 +36,7 @@ bool VersionMeasures::take(Observation const& observation) {
   bool const is_new = version.number != section.version;
   if (is_new) begin_version(version, observation);
   version.last_section = section.last_number;
+  version.last_table = section.last_table;
   ++version.sections[section.number];
   if (is_schedule(section.table_id))
     version.segments[section.number / sections_of_segment] = section.segment_last_number;
@@ -61,11 +64,14 @@ bool VersionMeasures::is_wanted(SubTable const& table, Version const& version, i
   return segment != version.segments.end() && section <= segment->second;
 }
 
+bool VersionMeasures::has_come_round(Version const& version) {
+  return std::ranges::all_of(version.sections,
+                             [](auto const& section) { return section.second >= enough_cycles; });
+}
+
 /// A pair of present and following has a measure of its own.
 void VersionMeasures::judge(SubTable const& table, Version const& version) {
-  bool const has_come_round = std::ranges::all_of(
-      version.sections, [](auto const& section) { return section.second >= enough_cycles; });
-  if (!has_come_round || is_present_following(table.table_id)) return;
+  if (!has_come_round(version) || is_present_following(table.table_id)) return;
   for (int section = 0; section <= version.last_section; ++section) {
     if (version.sections.contains(section) || !is_wanted(table, version, section)) continue;
     findings_.add(Measure::missing_section, table_text(table.pid, as_section(table)), version.first,
@@ -76,7 +82,7 @@ void VersionMeasures::judge(SubTable const& table, Version const& version) {
 
 /// Segments that have passed may be left out at the front of the first table.
 void VersionMeasures::judge_segments(SubTable const& table, Version const& version) {
-  bool const is_first_table = table.table_id % 16 == 0;
+  bool const is_first_table = table.table_id % tables_of_schedule == 0;
   int const begin = is_first_table ? version.segments.begin()->first : 0;
   for (int segment = begin; segment <= version.last_section / sections_of_segment; ++segment) {
     if (version.segments.contains(segment)) continue;
@@ -85,8 +91,23 @@ void VersionMeasures::judge_segments(SubTable const& table, Version const& versi
   }
 }
 
+/// Up to the next one that came, so that each is told once.
+void VersionMeasures::judge_tables_behind(SubTable const& table, Version const& version) {
+  if (!is_schedule(table.table_id) || !has_come_round(version)) return;
+  int const end_of_kind = (table.table_id / tables_of_schedule + 1) * tables_of_schedule;
+  int const last = std::min(version.last_table, end_of_kind - 1);
+  SubTable next = table;
+  while (++next.table_id <= last && !versions_.contains(next)) {
+    findings_.add(Measure::missing_table, table_text(next.pid, as_section(next)), version.first,
+                  "last_table_id is " + c_hexadecimal(version.last_table, 1));
+  }
+}
+
 void VersionMeasures::finish() {
-  for (auto const& [table, version] : versions_) judge(table, version);
+  for (auto const& [table, version] : versions_) {
+    judge(table, version);
+    judge_tables_behind(table, version);
+  }
 }
 
 }  // namespace inspect

@@ -23,14 +23,17 @@ class VersionMeasures {
   struct Version {
     int number = -1;
     int last_section = 0;
+    int last_table = 0;  // of a schedule
     Place first;
     std::map<int, std::uint64_t> sections;  // how often each came
     std::map<int, int> segments;            // of a schedule: the last section of each
   };
 
+  static bool has_come_round(Version const& version);
   void begin_version(Version& version, Observation const& observation);
   void judge(SubTable const& table, Version const& version);
   void judge_segments(SubTable const& table, Version const& version);
+  void judge_tables_behind(SubTable const& table, Version const& version);
   bool is_wanted(SubTable const& table, Version const& version, int section) const;
 
   Findings& findings_;

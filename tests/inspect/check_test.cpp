@@ -135,6 +135,12 @@ constexpr Fault faults[] = {
        m.repeat("schedule 1", 0x12, 1000, 711, assemble("50 F( 0001 C1 10 10 0001 0001 10 50 crc )"));
      },
      "Missing_segment 1 211\n"},
+    {"a table missing", 8000,
+     [](M& m) {
+       m.repeat("schedule 0", 0x12, 1000, 211, assemble("50 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
+       m.repeat("schedule 1", 0x12, 1000, 711, assemble("52 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
+     },
+     "Missing_table 1 211\n"},
     {"a section that fails", 8000,
      [](M& m) { m.add(5060, 0x11, assemble("4A F( 0002 C1 00 00 F( ) FFFF crc )")); },
      "Failed_section 1 5060\n"},
