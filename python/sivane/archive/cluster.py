@@ -17,6 +17,8 @@ PATIENCE = "30 s"
 @contextlib.contextmanager
 def connect(scheduler: str | None, workers: int) -> Iterator[Client]:
     """A client of the scheduler at the address or, without one, of as many workers here. OSError where there is none."""
+    for told_otherwise in ("distributed", "asyncio"):  # by the report and the exit status
+        logging.getLogger(told_otherwise).setLevel(logging.CRITICAL)
     with contextlib.ExitStack() as opened:
         if scheduler is None:
             with _uninterrupted():

@@ -47,7 +47,8 @@ class Report:
     def end(self) -> None:
         """Prints the sum."""
         self.clear_progress()
-        print(f"{self._total} recordings: {self._read} read, {self._unchanged} unchanged, {self.failures} failed; "
+        recordings = "1 recording" if self._total == 1 else f"{self._total} recordings"
+        print(f"{recordings}: {self._read} read, {self._unchanged} unchanged, {self.failures} failed; "
               f"{time.monotonic() - self._start:.1f} s", flush=True)
 
     def clear_progress(self) -> None:
