@@ -6,6 +6,13 @@
 
 namespace sivane {
 
+namespace {
+
+/// Of a block that fills one descriptor after the other: few loops have more tags that a host asks for.
+constexpr std::size_t first_capacity = 4;
+
+}  // namespace
+
 void DescriptorGroups::copy(DescriptorGroups const& other) {
   if (other.block_ == nullptr) return;
   DescriptorStorage::reserve(*this, other.block_->size);
@@ -42,7 +49,7 @@ void* DescriptorStorage::make(DescriptorGroups& groups, VectorOperations const& 
                               std::size_t reserved) {
   Block const* const block = groups.block_;
   if (block == nullptr || block->size == block->capacity) {
-    reserve(groups, block == nullptr ? 1 : 2 * block->capacity);
+    reserve(groups, block == nullptr ? first_capacity : 2 * block->capacity);
   }
   Slot* const slot = groups.block_->end();
   slot->row = row;
@@ -54,7 +61,10 @@ void* DescriptorStorage::make(DescriptorGroups& groups, VectorOperations const& 
 
 void DescriptorStorage::parse(DescriptorGroups& groups, DescriptorRow const* rows, RowOfTag const& row_of_tag,
                               DescriptorLoop& loop) {
-  if (groups.block_ == nullptr && loop.runs() > 0) reserve(groups, loop.runs());
+  if (groups.block_ == nullptr) {
+    std::size_t const runs = loop.runs();
+    if (runs > 0) reserve(groups, runs);
+  }
   while (loop.more()) {
     std::size_t run = loop.run();
     DescriptorBytes const first = loop.next();
