@@ -182,6 +182,7 @@ void Demux::PidHandler::continue_section(TSHeader const& header, unsigned char c
 void Demux::PidHandler::give_to_filters(TSHeader const& header, bool start, unsigned char const* data,
                                         int size) {
   log_write(3, "checking %d psifilter handlers", static_cast<int>(filter_handlers.size()));
+  if (filter_handlers.empty()) return;
   FilterPass const pass(demux);
   for (PSIFilterHandler* const filter : filter_handlers) {
     if (removed_) return;

@@ -17,8 +17,15 @@ namespace {
 
 constexpr int header_size = 4;
 
-/// A stream larger than the caches is waited for; asking this early costs nothing where it is not.
-constexpr int prefetched_packets = 32;
+// A stream larger than the caches is waited for; asking early costs nothing where it is not. Headers are
+// asked for into the second cache, since more can be under way to it than to the first. What is behind those
+// of wanted packets follows once the header has come.
+constexpr int headers_ahead = 96;
+constexpr int payloads_ahead = 32;
+constexpr int second_cache = 2;
+constexpr std::ptrdiff_t line_size = 64;
+
+int pid_of(unsigned char const* packet) { return (packet[1] & 0x1F) << 8 | packet[2]; }
 
 bool has_adaptation_field(Demux::TSHeader const& header) {
   return (header.adaptation_field_control & 2) != 0;
@@ -30,7 +37,7 @@ Demux::TSHeader::TSHeader(unsigned char const* packet)
     : transport_error_indicator(packet[1] >> 7),
       payload_unit_start_indicator(packet[1] >> 6 & 1),
       transport_priority(packet[1] >> 5 & 1),
-      pid((packet[1] & 0x1F) << 8 | packet[2]),
+      pid(pid_of(packet)),
       transport_scrambling_control(packet[3] >> 6),
       adaptation_field_control(packet[3] >> 4 & 3),
       continuity_counter(packet[3] & 0xF) {
@@ -50,7 +57,7 @@ Demux::AdaptionFieldHeader::AdaptionFieldHeader(unsigned char const* field, int&
 
 void Demux::route_packet(unsigned char const* packet) {
   if (receptions_ != nullptr) {
-    route_watched((packet[1] & 0x1F) << 8 | packet[2], packet);
+    route_watched(pid_of(packet), packet);
     return;
   }
   TSHeader header(packet);
@@ -85,13 +92,23 @@ int DemuxPush::push_data(unsigned char const* data, int size) {
 }
 
 [[gnu::flatten]] int DemuxPush::push_packets(PacketRun const& run) {
-  std::ptrdiff_t const prefetch_distance = std::ptrdiff_t{prefetched_packets} * run.stride;
+  std::ptrdiff_t const stride = run.stride;
+  std::uint64_t offset = run.offset;  // kept here: read back from the object, it would be waited for
   unsigned char const* packet = run.first;
-  next_offset_ = run.offset;
+  next_offset_ = offset;
   int result = 0;
-  for (int left = run.count; left > 0 && result == 0; --left, packet += run.stride) {
-    if (left > prefetched_packets) __builtin_prefetch(packet + prefetch_distance);
-    begin_packet(run.stride);
+  for (int left = run.count; left > 0 && result == 0; --left, packet += stride) {
+    if (left > headers_ahead) __builtin_prefetch(packet + headers_ahead * stride, 0, second_cache);
+    if (left > payloads_ahead) {
+      unsigned char const* const soon = packet + payloads_ahead * stride;
+      if (handlers_[static_cast<std::size_t>(pid_of(soon))] != nullptr) {
+        __builtin_prefetch(soon + line_size);
+        __builtin_prefetch(soon + 2 * line_size);
+        __builtin_prefetch(soon + ts_packet_size - 1);
+      }
+    }
+    packet_offset_ = offset;
+    next_offset_ = offset += static_cast<std::uint64_t>(stride);
     if (packet[0] != ts_sync_byte) {
       log_write(1, "TS sync byte not found: %02X", static_cast<unsigned int>(packet[0]));
       result = 2;
