@@ -112,7 +112,7 @@ py::dict as_dict(Place const& place) {
     return maker.made;
   }
   maker.begin_descriptor(place.element, **descriptor);
-  py::dict const made = maker.open();
+  py::dict made = maker.open();
   place.visit(maker);
   maker.end_descriptor();
   return made;

@@ -48,7 +48,7 @@ class AttributeFinder final : public FieldVisitor {
 
   void begin_list(Field const& field, std::size_t size) override {
     is_in_list_ = true;
-    if (field.member == wanted_) found = items_ = py::tuple(size);
+    if (is_wanted(field)) found = items_ = py::tuple(size);
   }
   void end_list() override {
     is_in_list_ = false;
@@ -58,7 +58,11 @@ class AttributeFinder final : public FieldVisitor {
     give(field, [&] { return make_node({place_.held, record}); });
   }
   void descriptor(std::string_view element, DescriptorBase const& descriptor) override {
-    give({}, [&] { return make_node({place_.held, &descriptor, element}); });
+    if (items_) give({}, [&] { return make_node({place_.held, &descriptor, element}); });
+  }
+
+  bool is_wanted(Field const& field) const {
+    return field.member.size() == wanted_.size() && field.member == wanted_;
   }
 
   /// The value, where it is the field or an item of the list that is wanted.
@@ -66,7 +70,7 @@ class AttributeFinder final : public FieldVisitor {
   void give(Field const& field, Make make) {
     if (items_) {
       PyTuple_SET_ITEM(items_.ptr(), next_++, py::object(make()).release().ptr());
-    } else if (!is_in_list_ && field.member == wanted_) {
+    } else if (!is_in_list_ && is_wanted(field)) {
       found = make();
     }
   }

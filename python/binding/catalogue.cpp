@@ -93,6 +93,8 @@ void add_catalogue(py::module_& module) {
       .def_property_readonly("bouquets", made_by(bouquets), "By bouquet_id, with their transport streams.")
       .def_property_readonly("programs", made_by(programs), "By program_number.")
       .def_property_readonly("access", made_by(access), "The CA systems of the CAT.")
+      .def_property_readonly("local_time_offsets", made_by(local_time_offsets),
+                             "That a TOT told last, by country.")
       .def_property_readonly(
           "time",
           [](StreamCatalogue const& self) {

@@ -38,7 +38,8 @@ py::dict row(EventText const&);
 py::dict row(Genre const&);
 py::dict row(Rating const&);
 py::dict row(Component const&);
-py::dict row(ContentId const&);
+py::dict row(SupplementaryAudio const&);
+py::dict row(LocalTimeOffset const&);
 py::dict row(ElementaryStream const&);
 constexpr auto row_of = [](auto const& item) { return row(item); };
 
@@ -60,7 +61,10 @@ py::dict row(Delivery const& delivery) {
                   "bandwidth"_a = delivery.bandwidth, "orbital_position"_a = delivery.orbital_position,
                   "is_east"_a = delivery.is_east, "polarization"_a = delivery.polarization,
                   "modulation"_a = delivery.modulation, "inner_code"_a = delivery.inner_code,
-                  "plp"_a = delivery.plp, "input_stream"_a = delivery.input_stream,
+                  "guard_interval"_a = delivery.guard_interval,
+                  "transmission_mode"_a = delivery.transmission_mode, "roll_off"_a = delivery.roll_off,
+                  "plp"_a = delivery.plp, "t2_system"_a = delivery.t2_system,
+                  "data_slice"_a = delivery.data_slice, "input_stream"_a = delivery.input_stream,
                   "scrambling_sequence"_a = delivery.scrambling_sequence);
 }
 
@@ -70,14 +74,15 @@ py::dict row(ListedService const& listed) {
 
 py::dict row(ChannelNumber const& channel) {
   return py::dict("service"_a = channel.service, "number"_a = channel.number,
-                  "is_visible"_a = channel.is_visible);
+                  "is_visible"_a = channel.is_visible, "is_hd_simulcast"_a = channel.is_hd_simulcast);
 }
 
 py::dict stream_row(StreamKey const& key, TransportStream const& stream) {
-  return py::dict(
-      "original_network"_a = key.original_network, "transport_stream"_a = key.transport_stream,
-      "deliveries"_a = rows(stream.deliveries, row_of), "services"_a = rows(stream.services, row_of),
-      "channel_numbers"_a = rows(stream.channel_numbers, row_of), "ca_systems"_a = stream.ca_systems);
+  return py::dict("original_network"_a = key.original_network, "transport_stream"_a = key.transport_stream,
+                  "deliveries"_a = rows(stream.deliveries, row_of),
+                  "services"_a = rows(stream.services, row_of),
+                  "channel_numbers"_a = rows(stream.channel_numbers, row_of),
+                  "default_authority"_a = utf8(stream.default_authority), "ca_systems"_a = stream.ca_systems);
 }
 
 /// The networks or bouquets, which `number_of` tells apart in the keys of both maps.
@@ -95,6 +100,7 @@ py::list network_rows(char const* name, Networks const& networks, Streams const&
     made["name"] = utf8(network.name);
     made["names"] = rows(network.names, row_of);
     made["is_actual"] = network.is_actual;
+    made["default_authority"] = utf8(network.default_authority);
     made["ca_systems"] = network.ca_systems;
     made["streams"] = carried;
     return made;
@@ -112,7 +118,8 @@ py::dict row(EventText const& text) {
 }
 
 py::dict row(Genre const& genre) {
-  return py::dict("level_1"_a = genre.level_1, "level_2"_a = genre.level_2, "user"_a = genre.user);
+  return py::dict("level_1"_a = genre.level_1, "level_2"_a = genre.level_2, "user"_a = genre.user,
+                  "name"_a = genre.name());
 }
 
 py::dict row(Rating const& rating) {
@@ -121,15 +128,20 @@ py::dict row(Rating const& rating) {
 }
 
 py::dict row(Component const& component) {
-  return py::dict("stream_content"_a = component.stream_content, "type"_a = component.type,
+  return py::dict("stream_content"_a = component.stream_content,
+                  "stream_content_ext"_a = component.stream_content_ext, "type"_a = component.type,
                   "tag"_a = component.tag, "language"_a = utf8(component.language),
-                  "text"_a = utf8(component.text));
+                  "text"_a = utf8(component.text), "coding"_a = component.coding_name());
 }
-
-py::dict row(ContentId const& id) { return py::dict("type"_a = id.type, "crid"_a = utf8(id.crid)); }
 
 std::string short_text(Event const& event) {
   return event.texts.empty() ? "" : event.texts.front().short_text;
+}
+
+py::list content_id_rows(Event const& event, std::string const& default_authority) {
+  return rows(event.content_ids, [&](ContentId const& id) {
+    return py::dict("type"_a = id.type, "crid"_a = utf8(id.crid), "uri"_a = utf8(id.uri(default_authority)));
+  });
 }
 
 py::dict event_row(Catalogue const& of, EventKey const& key, Event const& event) {
@@ -143,20 +155,33 @@ py::dict event_row(Catalogue const& of, EventKey const& key, Event const& event)
                   "running_status"_a = event.running_status, "is_scrambled"_a = event.is_scrambled,
                   "texts"_a = rows(event.texts, row_of), "genres"_a = rows(event.genres, row_of),
                   "ratings"_a = rows(event.ratings, row_of), "components"_a = rows(event.components, row_of),
-                  "content_ids"_a = rows(event.content_ids, row_of));
+                  "content_ids"_a = content_id_rows(event, of.default_authority(key.service)));
 }
 
 constexpr char const* kind_names[] = {"video", "audio", "subtitles", "teletext", "data"};
 constexpr char const* coding_names[] = {"",    "ac3",       "enhanced_ac3", "dts",      "aac",
                                         "ac4", "subtitles", "ttml",         "teletext", "vbi"};
 
+py::dict row(SupplementaryAudio const& audio) {
+  return py::dict("is_complete"_a = audio.is_complete, "classification"_a = audio.classification,
+                  "purpose"_a = audio.purpose(), "language"_a = utf8(audio.language));
+}
+
 py::dict row(ElementaryStream const& stream) {
-  return py::dict("pid"_a = stream.pid, "stream_type"_a = stream.stream_type,
-                  "kind"_a = kind_names[static_cast<std::size_t>(stream.kind())],
-                  "coding"_a = coding_names[static_cast<std::size_t>(stream.coding)],
-                  "component_tag"_a = stream.component_tag,
-                  "languages"_a = rows(stream.languages, [](auto const& code) { return utf8(code); }),
-                  "access"_a = rows(stream.access, row_of));
+  return py::dict(
+      "pid"_a = stream.pid, "stream_type"_a = stream.stream_type,
+      "kind"_a = kind_names[static_cast<std::size_t>(stream.kind())],
+      "coding"_a = coding_names[static_cast<std::size_t>(stream.coding)],
+      "component_tag"_a = stream.component_tag,
+      "languages"_a = rows(stream.languages, [](auto const& code) { return utf8(code); }),
+      "supplementary"_a = stream.supplementary ? py::object(row(*stream.supplementary)) : py::none(),
+      "access"_a = rows(stream.access, row_of));
+}
+
+py::dict row(LocalTimeOffset const& local) {
+  return py::dict("country"_a = utf8(local.country), "region"_a = local.region,
+                  "offset"_a = duration(local.offset), "change"_a = date_or_none(local.change),
+                  "next_offset"_a = duration(local.next_offset));
 }
 
 }  // namespace
@@ -165,14 +190,15 @@ py::list services(Catalogue const& of) {
   return rows(of.services(), [&of](auto const& entry) {
     auto const& [key, service] = entry;
     auto const channel = of.channel_number(key);
-    return py::dict("original_network"_a = key.original_network, "transport_stream"_a = key.transport_stream,
-                    "service"_a = key.service, "name"_a = utf8(service.name),
-                    "provider"_a = utf8(service.provider), "names"_a = rows(service.names, row_of),
-                    "type"_a = service.type, "running_status"_a = service.running_status,
-                    "is_scrambled"_a = service.is_scrambled, "has_schedule"_a = service.has_schedule,
-                    "has_present_following"_a = service.has_present_following,
-                    "is_actual"_a = service.is_actual, "ca_systems"_a = of.ca_systems(key),
-                    "channel"_a = channel ? py::object(py::int_(channel->number)) : py::none());
+    return py::dict(
+        "original_network"_a = key.original_network, "transport_stream"_a = key.transport_stream,
+        "service"_a = key.service, "name"_a = utf8(service.name), "provider"_a = utf8(service.provider),
+        "names"_a = rows(service.names, row_of), "type"_a = service.type, "type_name"_a = service.type_name(),
+        "default_authority"_a = utf8(of.default_authority(key)), "running_status"_a = service.running_status,
+        "is_scrambled"_a = service.is_scrambled, "has_schedule"_a = service.has_schedule,
+        "has_present_following"_a = service.has_present_following, "is_actual"_a = service.is_actual,
+        "ca_systems"_a = of.ca_systems(key),
+        "channel"_a = channel ? py::object(py::int_(channel->number)) : py::none());
   });
 }
 
@@ -207,5 +233,7 @@ py::list programs(Catalogue const& of) {
 }
 
 py::list access(Catalogue const& of) { return rows(of.access(), row_of); }
+
+py::list local_time_offsets(Catalogue const& of) { return rows(of.local_time_offsets(), row_of); }
 
 }  // namespace sivane::python

@@ -15,4 +15,6 @@ pybind11::list bouquets(catalogue::Catalogue const& of);  ///< with their transp
 pybind11::list programs(catalogue::Catalogue const& of);
 pybind11::list access(catalogue::Catalogue const& of);  ///< CA systems of the CAT
 
+pybind11::list local_time_offsets(catalogue::Catalogue const& of);  ///< that a TOT told last
+
 }  // namespace sivane::python

@@ -21,7 +21,7 @@ namespace py = pybind11;
 
 namespace {
 
-constexpr std::size_t piece_size = 1024 * ts_packet_size;  // until signals are looked at
+constexpr std::size_t piece_size = std::size_t{1024} * ts_packet_size;  // until signals are looked at
 
 /// What a host derives from: packets in, sections to its hook.
 class HookedDemux : private DemuxPush, private PacketFinder {

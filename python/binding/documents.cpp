@@ -44,6 +44,15 @@ std::string hexadecimal(char const* name, int value, int digits) {
   return text.str();
 }
 
+/// A field with its value, or of a list how many items there are.
+std::string field_text(Place const& place, py::handle name) {
+  auto const field = name.cast<std::string>();
+  py::object const value = attribute(place, field);
+  bool const is_list = py::isinstance<py::tuple>(value);
+  return field +
+         (is_list ? '[' + std::to_string(py::len(value)) + ']' : '=' + py::repr(value).cast<std::string>());
+}
+
 }  // namespace
 
 py::str dumped(Place const& place) {
@@ -89,7 +98,7 @@ py::str description(Place const& place, char const* type) {
   } else if (auto const* const descriptor = std::get_if<DescriptorBase const*>(&place.of)) {
     text += ' ' + std::string(place.element) + hexadecimal("tag", (*descriptor)->tag, 2);
   } else {
-    for (py::handle const name : attribute_names(place)) text += ' ' + name.cast<std::string>();
+    for (py::handle const name : attribute_names(place)) text += ' ' + field_text(place, name);
   }
   return utf8(text + '>');
 }

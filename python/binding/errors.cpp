@@ -3,6 +3,7 @@
 #include "errors.h"
 
 #include <exception>
+#include <utility>
 
 namespace sivane::python {
 
@@ -63,7 +64,7 @@ void add_errors(py::module_& module) {
   module.attr("Error") = py::reinterpret_borrow<py::object>(error_class);
   py::register_exception_translator([](std::exception_ptr thrown) {
     try {
-      if (thrown) std::rethrow_exception(thrown);
+      if (thrown) std::rethrow_exception(std::move(thrown));
     } catch (error const& failure) {
       set_error(failure);
     }

@@ -23,4 +23,8 @@ PYBIND11_MODULE(_sivane, module) {
   add_section_reader(module);
   add_demux(module);
   add_catalogue(module);
+  // Where hosts find them.
+  for (char const* const name : {"Catalogue", "Counters", "Demux", "load_xml", "parse"}) {
+    module.attr(name).attr("__module__") = "sivane";
+  }
 }

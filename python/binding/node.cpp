@@ -2,9 +2,11 @@
 // Copyright (c) 2026 the sivane authors
 #include "node.h"
 
+#include <memory>
 #include <new>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "as_dict.h"
 #include "attributes.h"
@@ -28,7 +30,7 @@ namespace {
 // As the interpreter lays it out. It has no cycles: what is known are objects that never change.
 struct Node {
   PyObject_HEAD Place place;
-  PyObject* known;  // a dict of what was converted before; null until there is something
+  std::vector<std::pair<PyObject*, PyObject*>> known;  // names, each the only object of its text, and values
 };
 
 Place const& place_of(PyObject* self) { return reinterpret_cast<Node*>(self)->place; }
@@ -40,8 +42,12 @@ DescriptorBase const& descriptor_of(PyObject* self) {
 void dealloc(PyObject* self) {
   PyTypeObject* const type = Py_TYPE(self);
   Node* const node = reinterpret_cast<Node*>(self);
-  Py_XDECREF(node->known);
-  node->place.~Place();
+  for (auto const& [name, value] : node->known) {
+    Py_DECREF(name);
+    Py_DECREF(value);
+  }
+  std::destroy_at(&node->known);
+  std::destroy_at(&node->place);
   type->tp_free(self);
   Py_DECREF(type);
 }
@@ -51,8 +57,9 @@ PyObject* refuse_to_make(PyTypeObject* type, PyObject*, PyObject*) {
 }
 
 /// Whether a value is worth keeping: numbers are made as quickly as they are found.
-bool is_kept(py::object const& value) {
-  return !PyLong_CheckExact(value.ptr()) && !PyFloat_CheckExact(value.ptr());
+bool is_kept(PyObject* name, py::object const& value) {
+  return value && PyUnicode_CHECK_INTERNED(name) != SSTATE_NOT_INTERNED && !PyLong_CheckExact(value.ptr()) &&
+         !PyFloat_CheckExact(value.ptr());
 }
 
 py::object member(Node& node, PyObject* name) {
@@ -60,10 +67,10 @@ py::object member(Node& node, PyObject* name) {
   char const* const letters = PyUnicode_AsUTF8AndSize(name, &size);
   if (letters == nullptr) throw py::error_already_set();
   py::object value = attribute(node.place, {letters, static_cast<std::size_t>(size)});
-  if (!value || !is_kept(value)) return value;
-  if (node.known == nullptr) node.known = PyDict_New();
-  if (node.known == nullptr || PyDict_SetItem(node.known, name, value.ptr()) != 0) {
-    throw py::error_already_set();
+  if (is_kept(name, value)) {
+    node.known.emplace_back(name, value.ptr());
+    Py_INCREF(name);
+    value.inc_ref();
   }
   return value;
 }
@@ -71,10 +78,8 @@ py::object member(Node& node, PyObject* name) {
 /// A field by its name, or what every object of the type has.
 PyObject* get_attribute(PyObject* self, PyObject* name) {
   Node& node = *reinterpret_cast<Node*>(self);
-  if (node.known != nullptr) {
-    PyObject* const value = PyDict_GetItemWithError(node.known, name);
-    if (value != nullptr) return Py_NewRef(value);
-    if (PyErr_Occurred() != nullptr) return nullptr;
+  for (auto const& [known, value] : node.known) {
+    if (known == name) return Py_NewRef(value);
   }
   bool const is_special = PyUnicode_GET_LENGTH(name) > 0 && PyUnicode_READ_CHAR(name, 0) == '_';
   if (!is_special) {
@@ -179,7 +184,7 @@ py::object make_node(Place place) {
   if (made == nullptr) throw py::error_already_set();
   Node* const node = reinterpret_cast<Node*>(made);
   new (&node->place) Place(std::move(place));
-  node->known = nullptr;
+  new (&node->known) decltype(node->known)();
   return py::reinterpret_steal<py::object>(made);
 }
 

@@ -10,7 +10,7 @@
 namespace sivane::python {
 
 /// A new `sivane.Section`, with a copy of the bytes. Its table is parsed where it is asked for.
-pybind11::object make_section(SectionView const& section, SharedSettings const& settings);
+pybind11::object make_section(SectionView const& view, SharedSettings const& settings);
 
 /// A table from bytes, as the settings want it. Throws `error`.
 pybind11::object parsed(unsigned char const* section, std::size_t size, SharedSettings const& settings,

@@ -5,11 +5,10 @@
 #include <memory>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "buffer.h"
 #include "in_use.h"
-#include "section.h"
+#include "section_batch.h"
 #include "selection.h"
 
 namespace sivane::python {
@@ -18,47 +17,16 @@ namespace py = pybind11;
 
 namespace {
 
-/// Sections as they came, copied into one block until the interpreter's lock is held again.
-class SectionQueue final : public SectionSink {
- public:
-  void take(SectionView const& section) override {
-    views_.push_back(section);
-    bytes_.insert(bytes_.end(), section.bytes, section.bytes + section.size);
-  }
-
-  /// Gives all of them as objects and forgets them.
-  py::list give(SharedSettings const& settings) {
-    py::list made(views_.size());
-    std::size_t begin = 0;
-    for (std::size_t i = 0; i < views_.size(); ++i) {
-      views_[i].bytes = bytes_.data() + begin;
-      begin += views_[i].size;
-      PyList_SET_ITEM(made.ptr(), static_cast<Py_ssize_t>(i),
-                      make_section(views_[i], settings).release().ptr());
-    }
-    clear();
-    return made;
-  }
-  void clear() {
-    views_.clear();
-    bytes_.clear();
-  }
-
- private:
-  std::vector<SectionView> views_;  // their bytes are in the block, one section behind the other
-  std::vector<unsigned char> bytes_;
-};
-
 class SectionReader {
  public:
   SectionReader(Selection const& selection, SharedSettings settings)
       : settings_(std::move(settings)), reader_(selection, queue_) {}
 
-  py::list push(py::handle data) {
+  py::object push(py::handle data) {
     Buffer const buffer(data);
     return give([&] { reader_.push(buffer.bytes().data(), buffer.bytes().size()); });
   }
-  py::list finish() {
+  py::object finish() {
     return give([&] { reader_.finish(); });
   }
   std::uint64_t packets() const { return reader_.packets; }
@@ -66,26 +34,26 @@ class SectionReader {
 
  private:
   template <class Read>
-  py::list give(Read read) {
+  py::object give(Read read) {
     InUse::Claim const claim(in_use_);
-    queue_.clear();
     {
       py::gil_scoped_release const unlocked;
       read();
     }
-    return queue_.give(settings_);
+    return make_batch(std::exchange(queue_, {}), settings_);
   }
 
   SharedSettings settings_;
+  InUse in_use_;
   SectionQueue queue_;
   StreamReader reader_;
-  InUse in_use_;
 };
 
 }  // namespace
 
 void add_section_reader(py::module_& module) {
-  py::class_<SectionReader>(module, "SectionReader",
+  add_batches();
+  py::class_<SectionReader>(module, "_SectionReader",
                             "Takes a stream in pieces of any size and gives its sections.")
       .def(py::init([](py::object const& registrations, bool every_section, bool tolerant,
                        std::string const& charset, std::string const& charset_always) {

@@ -12,25 +12,8 @@
 is an `Error`. There is a class for each class of table and descriptor, `Sdt` and `DescriptorService` say.
 """
 
-from . import _sivane
-from ._sivane import *  # noqa: F403  the classes of tables and descriptors, made from the library's lists
-from ._sivane import Catalogue, Counters, Demux, Descriptor, Error, Fields, Record, Section, Table, __version__
-from ._sivane import load_xml, parse
-from ._streams import Sections, catalogue, sections
-
-__all__ = [
-    "Catalogue",
-    "Counters",
-    "Demux",
-    "Error",
-    "Fields",
-    "Record",
-    "Section",
-    "Sections",
-    "__version__",
-    "catalogue",
-    "load_xml",
-    "parse",
-    "sections",
-    *(name for name, value in vars(_sivane).items() if isinstance(value, type) and issubclass(value, Fields)),
-]
+from ._sivane import *  # noqa: F403  all that is compiled, a class for each of the library's lists included
+from ._sivane import __version__ as __version__
+from ._streams import Sections as Sections
+from ._streams import catalogue as catalogue
+from ._streams import sections as sections

@@ -6,16 +6,17 @@ import os
 import sys
 from collections.abc import Callable, Iterable, Iterator
 from types import TracebackType
-from typing import Protocol, TypeAlias
+from typing import Protocol, TypeAlias, runtime_checkable
 
 from . import _network
 
-PIECE = 1 << 18
+PIECE = 1 << 16
 """Bytes that are searched at once, without the interpreter's lock."""
 
 Bytes: TypeAlias = bytes | bytearray | memoryview
 
 
+@runtime_checkable
 class Readable(Protocol):
     """What has bytes to read, as a file that is open for them."""
 
@@ -65,7 +66,7 @@ def open_source(source: Source) -> Pieces:
         return Pieces(_read(file), file.close)
     if isinstance(source, (bytes, bytearray, memoryview)):
         return Pieces(_cut(source))
-    if hasattr(source, "read"):
+    if isinstance(source, Readable):
         return Pieces(_read(source))
     return Pieces(piece for block in source for piece in _cut(block))
 

@@ -5,7 +5,7 @@
 from collections.abc import Generator, Iterable, Iterator
 from types import TracebackType
 
-from ._sivane import Catalogue, Section, SectionReader
+from ._sivane import Catalogue, Section, _SectionReader
 from ._sources import Pieces, Source, open_source
 
 
@@ -15,7 +15,7 @@ class Sections(Iterator[Section]):
     A file that `sections` opened is closed at the end, by `close`, and at the end of a `with`.
     """
 
-    def __init__(self, pieces: Pieces, reader: SectionReader) -> None:
+    def __init__(self, pieces: Pieces, reader: _SectionReader) -> None:
         self._pieces = pieces
         self._reader = reader
         self._sections = _read(pieces, reader)
@@ -50,7 +50,7 @@ class Sections(Iterator[Section]):
         return self._reader.skipped_bytes
 
 
-def _read(pieces: Pieces, reader: SectionReader) -> Generator[Section, None, None]:
+def _read(pieces: Pieces, reader: _SectionReader) -> Generator[Section, None, None]:
     with pieces:
         for piece in pieces:
             yield from reader.push(piece)
@@ -78,7 +78,7 @@ def sections(
 
     Raises `OSError` where the source cannot be opened or read, and `Error`, at its end, where it held no packet.
     """
-    reader = SectionReader(
+    reader = _SectionReader(
         registrations,
         every_section=every_section,
         tolerant=tolerant,
