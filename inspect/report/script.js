@@ -76,7 +76,7 @@ function showOverview() {
       [String(service.service), isolated(service.name), isolated(service.provider), service.type, service.scrambled ? 'scrambled' : 'free', service.network + ' / ' + service.stream + (service.actual ? ' (this one)' : '')])));
   }
   if (data.programs.length) {
-    const streams = program => program.streams.map(stream => hex(stream.pid, 4) + ' ' + stream.type + (stream.languages ? ' (' + stream.languages + ')' : '')).join(', ');
+    const streams = program => program.streams.map(stream => hex(stream.pid, 4) + ' ' + stream.type + (stream.supplementary ? ', ' + stream.supplementary : '') + (stream.languages ? ' (' + stream.languages + ')' : '')).join(', ');
     body.append(make('h3', null, 'Programs'), table(['Program', 'PMT', 'PCR', 'Streams'], data.programs.map(program =>
       [String(program.number), program.map < 0 ? '–' : hex(program.map, 4), program.pcr === 0x1fff ? '–' : hex(program.pcr, 4), streams(program)])));
   }
@@ -91,6 +91,9 @@ function aboutEvent(event) {
     make('p', {class: 'note'}, isolated(nameOf(event)), ' · ' + dateOf(event.start).slice(0, 10) + ' ' + clockOf(event.start) + '–' + clockOf(event.start + event.duration) + ' UTC · event ' + event.id));
   for (const text of event.texts) {
     about.append(make('p', {dir: 'auto'}, (event.texts.length > 1 ? text.language + ': ' + text.title + '\n' : '') + text.text));
+  }
+  for (const facts of [event.genres, event.components, event.content_ids]) {
+    if (facts) about.append(make('p', {class: 'note'}, isolated(facts)));
   }
   return about;
 }

@@ -33,7 +33,35 @@ std::string longer_text(EventText const& text) {
   return all;
 }
 
-void write_event(JsonWriter& json, ServiceKey const& service, int id, Event const& event) {
+/// Each as "H.264 video (deu): wide"; what it leaves open is left out.
+std::vector<std::string> components_of(Event const& event) {
+  std::vector<std::string> components;
+  for (Component const& component : event.components) {
+    char const* const coding = component.coding_name();
+    std::string text = coding == nullptr ? "component" : coding;
+    if (!component.language.empty()) text += " (" + component.language + ")";
+    if (!component.text.empty()) text += ": " + component.text;
+    components.push_back(std::move(text));
+  }
+  return components;
+}
+
+std::string genres_of(Event const& event) {
+  std::vector<std::string> names;
+  for (Genre const& genre : event.genres) {
+    if (genre.name() != nullptr) names.emplace_back(genre.name());
+  }
+  return joined(names);
+}
+
+std::string content_ids_of(Event const& event, std::string const& default_authority) {
+  std::vector<std::string> uris;
+  for (ContentId const& id : event.content_ids) uris.push_back(id.uri(default_authority));
+  return joined(uris);
+}
+
+void write_event(JsonWriter& json, Catalogue const& catalogue, ServiceKey const& service, int id,
+                 Event const& event) {
   json.begin_object();
   json.member("network", service.original_network);
   json.member("stream", service.transport_stream);
@@ -42,6 +70,9 @@ void write_event(JsonWriter& json, ServiceKey const& service, int id, Event cons
   json.member("start", event.start->time_since_epoch().count());
   json.member("duration", event.duration ? event.duration->count() : 0);
   json.member("title", event.title());
+  json.member("genres", genres_of(event));
+  json.member("components", joined(components_of(event)));
+  json.member("content_ids", content_ids_of(event, catalogue.default_authority(service)));
   json.key("texts");
   json.begin_array();
   for (EventText const& text : event.texts) {
@@ -138,6 +169,7 @@ void write_programs(JsonWriter& json, Catalogue const& catalogue) {
       json.member("pid", stream.pid);
       json.member("type", stream_type_text(stream));
       json.member("languages", joined(stream.languages));
+      json.member("supplementary", stream.supplementary ? stream.supplementary->purpose() : "");
       json.end_object();
     }
     json.end_array();
@@ -152,7 +184,7 @@ void write_events(JsonWriter& json, Catalogue const& catalogue) {
   json.begin_array();
   for (auto const& [key, event] : catalogue.events()) {
     if (!event.start || written == most_events) continue;
-    write_event(json, key.service, key.event, event);
+    write_event(json, catalogue, key.service, key.event, event);
     ++written;
   }
   json.end_array();
