@@ -51,7 +51,6 @@ class DescriptorLoop {
   DescriptorLoop(unsigned char const* first, int size, int limit, Failure failure, int begin)
       : first_(first), size_(size), limit_(limit), failure_(failure), begin_(begin) {}
 
-  /// Whether another one starts in the loop.
   /// `size` bytes of which nothing more is known: a descriptor that leaves them throws "descriptor start end
   /// mismatch".
   DescriptorLoop(unsigned char const* first, int size)
@@ -72,13 +71,12 @@ class DescriptorLoop {
     last_ = next_;
     if (!fits(next_, limit_)) raise(failure_, offset());
     next_ += 2 + first_[next_ + 1];
-    DescriptorBytes const descriptor(first_ + last_, first_ + limit_, offset());
-    if (descriptor.tag() == specifier_tag) specifier_ = specifier_of(descriptor);
-    return descriptor;
+    return {first_ + last_, first_ + limit_, offset()};
   }
   /// The private_data_specifier in force at the one that was taken last, 32 bits: whose private tags those
-  /// are that follow (ETSI EN 300 468, 6.2.31). 0 where none was given, or one that is too short.
-  unsigned int private_data_specifier() const { return specifier_; }
+  /// are that follow (ETSI EN 300 468, 6.2.31). 0 where none was given, or one that is too short. Looked for
+  /// where somebody asks, so that loops without private descriptors do not pay.
+  unsigned int private_data_specifier();
   /// Once there are no more: throws where the last one has run over the loop and may not.
   void close(LoopEnd end) const {
     if (end == LoopEnd::exact && next_ > size_) raise(failure_, offset());
@@ -109,8 +107,6 @@ class DescriptorLoop {
   }
 
  private:
-  static constexpr int specifier_tag = 0x5F;
-  static unsigned int specifier_of(DescriptorBytes descriptor);
   bool fits(int at, int end) const { return end - at >= 2 && end - at - 2 >= first_[at + 1]; }
   int offset() const { return begin_ < 0 ? -1 : begin_ + last_; }
 
@@ -121,6 +117,7 @@ class DescriptorLoop {
   int limit_;
   Failure failure_;
   int begin_;
+  int searched_ = 0;  // how far for specifiers
   unsigned int specifier_ = 0;
 };
 

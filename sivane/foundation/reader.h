@@ -186,9 +186,14 @@ inline Reader DescriptorBytes::body(Failure overrun) const {
   return {first + 2, length(), available - 2, overrun, offset < 0 ? -1 : offset + 2};
 }
 
-inline unsigned int DescriptorLoop::specifier_of(DescriptorBytes descriptor) {
-  constexpr int size = 4;
-  return descriptor.length() < size ? 0 : descriptor.body().u32();
+inline unsigned int DescriptorLoop::private_data_specifier() {
+  constexpr int specifier_tag = 0x5F, size = 4;
+  for (; searched_ < next_; searched_ += 2 + first_[searched_ + 1]) {
+    if (first_[searched_] != specifier_tag) continue;
+    DescriptorBytes const descriptor(first_ + searched_, first_ + limit_, -1);
+    specifier_ = descriptor.length() < size ? 0 : descriptor.body().u32();
+  }
+  return specifier_;
 }
 
 template <class Record, class... Arguments>
