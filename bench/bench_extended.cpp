@@ -25,7 +25,7 @@ std::vector<Bytes> loops(bool have_classes) {
   };
   return {
       make(0x7A, hex("80C2")) + make(0x7F, hex("0687667261")),
-      make(0x7C, hex("58BF03")) + make(0x38, hex("626000000190ABCDEF012347BF")),
+      make(0x7C, hex("58BF03")) + make(0x38, hex("6260000001 90ABCDEF0123 47 3F")),
       make(0x7F, hex("0401123403940001 02D34440 00")),
       make(0x73, characters("example.org")) + make(0x7E, hex("FA")),
       make(0x76, hex("04 05 2F31323334")),
