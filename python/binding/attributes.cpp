@@ -46,19 +46,14 @@ class AttributeFinder final : public FieldVisitor {
     give(field, [&value] { return python::duration(value); });
   }
 
-  void begin_list(Field const& field, std::size_t size) override {
-    is_in_list_ = true;
-    if (is_wanted(field)) found = items_ = py::tuple(size);
-  }
-  void end_list() override {
-    is_in_list_ = false;
-    items_ = {};
-  }
+  bool wants_list(Field const& field) override { return is_wanted(field); }
+  void begin_list(Field const&, std::size_t size) override { found = items_ = py::tuple(size); }
+  void end_list() override { items_ = {}; }
   void record(Field const& field, FieldHolder const& record) override {
     give(field, [&] { return make_node({place_.held, record}); });
   }
   void descriptor(std::string_view element, DescriptorBase const& descriptor) override {
-    if (items_) give({}, [&] { return make_node({place_.held, &descriptor, element}); });
+    give({}, [&] { return make_node({place_.held, &descriptor, element}); });
   }
 
   bool is_wanted(Field const& field) const {
@@ -70,14 +65,13 @@ class AttributeFinder final : public FieldVisitor {
   void give(Field const& field, Make make) {
     if (items_) {
       PyTuple_SET_ITEM(items_.ptr(), next_++, py::object(make()).release().ptr());
-    } else if (!is_in_list_ && is_wanted(field)) {
+    } else if (is_wanted(field)) {
       found = make();
     }
   }
 
   Place const& place_;
   std::string_view wanted_;
-  bool is_in_list_ = false;
   py::object items_;  // the list that is wanted, while it is told
   Py_ssize_t next_ = 0;
 };
@@ -96,14 +90,13 @@ class NameLister final : public FieldVisitor {
   void bytes(Field const& field, unsigned char const*, std::size_t) override { add(field); }
   void date(Field const& field, DateTime const&) override { add(field); }
   void duration(Field const& field, Duration const&) override { add(field); }
-  void begin_list(Field const& field, std::size_t) override { add(field); }
-  void record(Field const& field, FieldHolder const&) override { add(field); }
-  void descriptor(std::string_view, DescriptorBase const&) override {}
-
-  /// Items of lists have no names.
-  void add(Field const& field) {
-    if (!field.member.empty()) names.append(utf8(field.member));
+  bool wants_list(Field const& field) override {
+    add(field);
+    return false;
   }
+  void record(Field const& field, FieldHolder const&) override { add(field); }
+
+  void add(Field const& field) { names.append(utf8(field.member)); }
 };
 
 }  // namespace

@@ -14,6 +14,7 @@ void FieldVisitor::code(Field const&, std::string_view) {}
 void FieldVisitor::bytes(Field const&, unsigned char const*, std::size_t) {}
 void FieldVisitor::date(Field const&, DateTime const&) {}
 void FieldVisitor::duration(Field const&, Duration const&) {}
+bool FieldVisitor::wants_list(Field const&) { return true; }
 void FieldVisitor::begin_list(Field const&, std::size_t) {}
 void FieldVisitor::end_list() {}
 void FieldVisitor::begin_record(Field const&) {}

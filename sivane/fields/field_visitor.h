@@ -60,6 +60,9 @@ class SIVANE_API FieldVisitor {
   virtual void date(Field const& field, DateTime const& value);      ///< UTC
   virtual void duration(Field const& field, Duration const& value);  ///< hours, minutes and seconds
 
+  /// Whether a list is told at all, to spare the walk through one that nobody asked for. Unless overridden:
+  /// yes.
+  virtual bool wants_list(Field const& field);
   /// A list of `size` items, which follow until `end_list`: numbers, strings, records or descriptors.
   virtual void begin_list(Field const& field, std::size_t size);
   virtual void end_list();  ///< of the list begun last

@@ -48,6 +48,7 @@ class TellValue {
   }
 
   void operator()(std::vector<std::string> const* v) const {
+    if (!visitor_.wants_list(field_)) return;
     visitor_.begin_list(field_, v->size());
     for (std::string const& item : *v) visitor_.string(item_, item);
     visitor_.end_list();
@@ -59,6 +60,7 @@ class TellValue {
   }
   template <class Number>
   void operator()(std::vector<Number> const* v) const {
+    if (!visitor_.wants_list(field_)) return;
     visitor_.begin_list(field_, v->size());
     for (Number const item : *v) visitor_.number(item_, static_cast<std::int64_t>(item));
     visitor_.end_list();
@@ -83,6 +85,7 @@ class Walk final : public FieldList {
   }
 
   void record_list(FieldName const& name, char16_t const*, AnyRecords records) override {
+    if (!visitor_.wants_list(name.field)) return;
     Field const item = {{}, {}, 0, name.field.in_documents};
     visitor_.begin_list(name.field, records.size);
     for (std::size_t i = 0; i < records.size; ++i) record(item, records.at(records.vector, i));
@@ -104,9 +107,11 @@ class Walk final : public FieldList {
 };
 
 void visit_list(DescriptorGroups const& groups, std::string_view const* names, FieldVisitor& visitor) {
+  Field const field = {"descriptors", "descriptors"};
+  if (!visitor.wants_list(field)) return;
   std::size_t size = 0;
   DescriptorStorage::each(groups, [&size](int, DescriptorBase const&) { ++size; });
-  visitor.begin_list({"descriptors", "descriptors"}, size);
+  visitor.begin_list(field, size);
   DescriptorStorage::each(
       groups, [&](int row, DescriptorBase const& descriptor) { visitor.descriptor(names[row], descriptor); });
   visitor.end_list();

@@ -93,6 +93,33 @@ TEST(Visits, OfTablesTellWhatDocumentsHoldAndTheRest) {
   EXPECT_EQ(classes.size() + 1, std::variant_size_v<AnyTable>);
 }
 
+/// Wants no list, and counts what is beside them.
+struct ListLess final : FieldVisitor {
+  bool wants_list(Field const& field) override {
+    lists.insert(std::string(field.member));
+    return false;
+  }
+  void number(Field const&, std::int64_t) override { ++numbers; }
+  void descriptor(std::string_view, DescriptorBase const&) override { ADD_FAILURE(); }
+  void record(Field const&, FieldHolder const&) override { ADD_FAILURE(); }
+
+  Names lists;
+  int numbers = 0;
+};
+
+TEST(Visits, PassOverListsThatAreNotWanted) {
+  Sdt sdt;
+  sdt.service_infos.resize(3);
+  ListLess visitor;
+  sdt.visit(visitor);
+  EXPECT_EQ(visitor.lists, Names{"service_infos"});
+  int const numbers_of_table = visitor.numbers;
+  sdt.service_infos[0].visit(visitor);
+  EXPECT_EQ(visitor.lists, (Names{"descriptors", "service_infos"}));
+  EXPECT_GT(numbers_of_table, 0);
+  EXPECT_GT(visitor.numbers, numbers_of_table);
+}
+
 TEST(Equality, IsThatOfEveryMember) {
   each_descriptor_of_cases([](auto const& row, auto const& descriptor) {
     using Class = std::remove_cvref_t<decltype(descriptor)>;
