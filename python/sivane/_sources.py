@@ -8,7 +8,7 @@ from collections.abc import Callable, Iterable, Iterator
 from types import TracebackType
 from typing import Protocol, TypeAlias, runtime_checkable
 
-from . import _network
+from . import _adapter, _network
 
 PIECE = 1 << 16
 """Bytes that are searched at once, without the interpreter's lock."""
@@ -57,8 +57,9 @@ def open_source(source: Source) -> Pieces:
     if isinstance(source, str) and _network.is_address(source):
         datagrams = _network.open_address(source)
         return Pieces(iter(datagrams), datagrams.close)
-    if isinstance(source, str) and source.startswith("dvb://"):
-        raise ValueError(f"{source}: sivane-inspect reads adapters; here open one's device, /dev/dvb/adapter0/dvr0 say")
+    if isinstance(source, str) and _adapter.is_adapter(source):
+        adapter = _adapter.Adapter(source, PIECE)
+        return Pieces(adapter, adapter.close)
     if source == "-":
         return Pieces(_read(sys.stdin.buffer))
     if isinstance(source, (str, os.PathLike)):

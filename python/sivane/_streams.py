@@ -68,7 +68,7 @@ def sections(
 ) -> Sections:
     """The sections of a stream, in the order in which they end.
 
-    `source` is a path, "-" for standard input, udp:// or rtp://, a file or another object with `read`, bytes, or an
+    `source` is a path, "-" for standard input, udp://, rtp:// or dvb://, a file or another object with `read`, bytes, or an
     iterable of bytes that are cut anywhere. Packets have 188, 192 or 204 bytes; bytes between them are skipped.
 
     `registrations` are pairs of PID and table id; without them all tables that have a class are read, those included

@@ -3,6 +3,7 @@
 """What goes wrong in a source or a section, interrupts, and what stays behind."""
 
 import contextlib
+import errno
 import gc
 import os
 import pickle
@@ -67,7 +68,8 @@ def test_sources_without_packets(tmp_path):
         sivane.sections(tmp_path / "nothing")
     with pytest.raises(IsADirectoryError):
         list(sivane.sections(tmp_path))
-    for wrong in ["udp://", "udp://239.0.0.1", "rtp://239.0.0.1:0", "udp://nowhere:5000", "udp://:5000?ttl=1"]:
+    for wrong in ["udp://", "udp://239.0.0.1", "rtp://239.0.0.1:0", "udp://nowhere:5000", "udp://:5000?ttl=1",
+                  "dvb://", "dvb://a", "dvb://0/0/0"]:
         with pytest.raises(ValueError):
             sivane.sections(wrong)
     with pytest.raises(TypeError):
@@ -119,6 +121,30 @@ def test_files_are_closed(tmp_path):
         gc.collect()
     assert len(os.listdir("/proc/self/fd")) == before
     assert list(sections) == []
+
+
+def test_adapters(tmp_path, monkeypatch):
+    # A file stands in for the device: it gives packets, and then there are no more.
+    device = tmp_path / "adapter2/demux1"
+    device.parent.mkdir()
+    device.write_bytes(b"".join(packets(PAT, count=5000)))
+    requests, overflows = [], [OSError(errno.EOVERFLOW, "lost")]
+    read = os.read
+
+    def overflow_once(*arguments):
+        if overflows:
+            raise overflows.pop()
+        return read(*arguments)
+
+    monkeypatch.setattr("sivane._adapter.DEVICES", str(tmp_path))
+    with pytest.raises(OSError):
+        sivane.sections("dvb://2/1")  # takes no filter
+    monkeypatch.setattr("fcntl.ioctl", lambda file, request, argument: requests.append((request, argument)))
+    monkeypatch.setattr("os.read", overflow_once)
+    assert len(list(sivane.sections("dvb://2/1"))) == 5000 and not overflows
+    assert requests[1] == (0x40146F2C, bytes.fromhex("0020 0000 00000000 03000000 14000000 04000000"))
+    with pytest.raises(FileNotFoundError):
+        sivane.sections("dvb://2")
 
 
 def free_port():
