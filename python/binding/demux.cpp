@@ -9,6 +9,7 @@
 #include <exception>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "buffer.h"
 #include "in_use.h"
@@ -95,13 +96,18 @@ class HookedDemux : private DemuxPush, private PacketFinder {
     });
   }
 
-  /// Runs it without the interpreter's lock. What a hook raised leaves when it is done.
+  /// Runs it without the interpreter's lock. Of what went wrong the first leaves when it is done.
   template <class Work>
   void work(Work run) {
     InUse::Claim const claim(in_use_);
+    is_ending_ = false;
     {
       py::gil_scoped_release const unlocked;
-      run();
+      try {
+        run();
+      } catch (...) {
+        if (!raised_) raised_ = std::current_exception();
+      }
     }
     if (raised_) std::rethrow_exception(std::exchange(raised_, nullptr));
   }

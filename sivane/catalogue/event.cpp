@@ -14,7 +14,7 @@ std::string const& Event::title() const {
 }
 
 std::string ContentId::uri(std::string const& default_authority) const {
-  bool const has_authority = crid.front() != '/';
+  bool const has_authority = !crid.starts_with('/');
   if (!has_authority && default_authority.empty()) return crid;
   return "crid://" + (has_authority ? crid : default_authority + crid);
 }
