@@ -11,6 +11,8 @@ import pytest
 
 ROOT = pathlib.Path(__file__).parents[2]
 SAMPLE = ROOT / "examples/sample/sample.ts"
+HANGING = 500
+"""Seconds after which a process is taken to hang, which a machine that is merely busy does not let pass."""
 STREAMS = [SAMPLE, *sorted(pathlib.Path(os.environ["SIVANE_SAMPLES"]).glob("*.ts"))]
 
 

@@ -4,22 +4,24 @@
 
 import json
 import os
-import pathlib
 import shutil
 import subprocess
 import sys
 
 import pytest
+from conftest import HANGING, SAMPLE
 
 from sivane.archive.store import Store, StoreError
 
-SAMPLE = pathlib.Path(__file__).parents[2] / "examples/sample/sample.ts"
+
+PATIENT = {f"DASK_DISTRIBUTED__COMM__TIMEOUTS__{name}": f"{HANGING} s" for name in ("CONNECT", "TCP")}
 
 
 def run(folder, *arguments):
     """Runs the command on the folder `in`; its status and what it printed."""
     command = [sys.executable, "-m", "sivane.archive", "in", "--out", "out.jsonl", "--workers", "1", *arguments]
-    ended = subprocess.run(command, cwd=folder, capture_output=True, text=True, timeout=100)
+    ended = subprocess.run(
+        command, cwd=folder, capture_output=True, text=True, timeout=HANGING, check=False, env=os.environ | PATIENT)
     return ended.returncode, ended.stdout
 
 
