@@ -4,34 +4,14 @@
 
 import pytest
 import sivane
-from conftest import ROOT
+from cases import descriptors_of_cases, sections_of_cases, table_of
 from plain import fields_of, plain
-from section_text import assemble, steps
-
-CASES = ROOT / "tests/descriptors"
-
-
-def bodies(folder, is_of_ait):
-    """The descriptors of the case files that are whole and fit into a section."""
-    for path in sorted((CASES / folder).glob("*.txt")):
-        if path.name.startswith("ait") != is_of_ait:
-            continue
-        for step in steps(path):
-            if "throws" not in step and "after" not in step:
-                yield assemble(step["hex"]), step.get("whose")
-
-
-def table_of(descriptor, is_of_ait, whose):
-    """A PMT or AIT with the descriptor, where its private_data_specifier is in force."""
-    loop = (f"5F[ {int(whose, 16):08X} ]" if whose else "") + descriptor.hex().upper()
-    body = f"F( {loop} ) F()" if is_of_ait else f"E100 F( {loop} )"
-    return sivane.parse(assemble(f"{'74' if is_of_ait else '02'} B( 0001 C1 00 00 {body} crc )"))
-
+from section_text import assemble
 
 @pytest.mark.parametrize("folder, is_of_ait", [("cases", False), ("cases", True), ("extended", False)])
 def test_every_class_reads_as_attributes(folder, is_of_ait):
     seen = set()
-    for descriptor, whose in bodies(folder, is_of_ait):
+    for descriptor, whose in descriptors_of_cases(folder, is_of_ait):
         table = table_of(descriptor, is_of_ait, whose)
         one = next(one for one in table.descriptors if one.tag == descriptor[0])
         assert (one.tag, one.length) == (descriptor[0], len(descriptor) - 2)
@@ -55,13 +35,12 @@ def test_no_class_was_left_out():
     assert descriptors - SEEN == set()
 
 
-@pytest.mark.parametrize("path", sorted((ROOT / "tests/tables/cases").glob("*.txt")), ids=lambda path: path.stem)
-def test_every_table_reads_as_attributes(path):
-    sections = [assemble(step["hex"]) for step in steps(path) if "throws" not in step]
+@pytest.mark.parametrize("name, sections", sections_of_cases(), ids=lambda value: value if isinstance(value, str) else "")
+def test_every_table_reads_as_attributes(name, sections):
     assert sections
     for section in sections:
-        table = sivane.parse(section, class_name=path.stem)
-        assert type(table) is getattr(sivane, path.stem)
+        table = sivane.parse(section, class_name=name)
+        assert type(table) is getattr(sivane, name)
         assert fields_of(table) == table.to_dict()
         assert table.table_id == section[0] and f"0x{section[0]:02x}" in repr(table)
         assert set(table.to_dict()) and table.dump().startswith("table_id")
