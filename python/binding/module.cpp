@@ -5,6 +5,7 @@
 #include "catalogue.h"
 #include "demux.h"
 #include "errors.h"
+#include "names.h"
 #include "node.h"
 #include "section.h"
 #include "section_reader.h"
@@ -23,8 +24,12 @@ PYBIND11_MODULE(_sivane, module) {
   add_section_reader(module);
   add_demux(module);
   add_catalogue(module);
+  add_names(module);
   // Where hosts find them.
-  for (char const* const name : {"Catalogue", "Counters", "Demux", "load_xml", "parse"}) {
+  for (char const* const name : {"Catalogue", "Counters", "Demux"}) {
     module.attr(name).attr("__module__") = "sivane";
+  }
+  for (auto const& [name, value] : module.attr("__dict__").cast<pybind11::dict>()) {
+    if (PyCFunction_Check(value.ptr()) != 0) value.attr("__module__") = "sivane";
   }
 }

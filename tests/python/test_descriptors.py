@@ -69,3 +69,16 @@ def test_children_keep_their_table():
     descriptor = service().service_infos[0].descriptors[0]
     assert isinstance(descriptor, sivane.DescriptorService)
     assert (descriptor.provider_name, descriptor.service_name) == ("A", "B")
+
+
+def test_numbers_have_names():
+    assert sivane.component_coding_name(4, 0, 0x80) != sivane.component_coding_name(4, 0, 0) is not None
+    assert sivane.genre_name(1, 15) is None and sivane.service_type_name(-1) is None
+    assert sivane.network_name(1) == "Astra Satellite Network 19,2°E"
+    assert sivane.private_data_name(9) == "Nagravision SA - Kudelski 1"
+    assert sivane.private_data_name(0xBBBBBBBB) == sivane.private_data_name(0xBBBBBBBB - 2**32) == "Bertelsmann Broadband Group"
+    for number in [0x10001, 2**32 + 1, -(2**40)]:
+        assert sivane.network_name(number) is None
+    for lookup in [sivane.original_network_name, sivane.bouquet_name, sivane.ca_system_name, sivane.data_broadcast_name,
+                   sivane.organisation_name]:
+        assert len({lookup(number) for number in range(0x4000)} - {None}) > 1
