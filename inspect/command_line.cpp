@@ -55,8 +55,11 @@ void add_command(CLI::App& app, CommandRow const& row, Arguments& arguments) {
       ->type_name("KIND")
       ->capture_default_str();
   add_options_of_streams(command, arguments);
-  if (row.has_json)
+  if (row.offer == CommandRow::Offer::json)
     command.add_flag("--json", arguments.as_json, "One JSON object, for a program (check, diff)");
+  if (row.offer == CommandRow::Offer::names)
+    command.add_flag("--names", arguments.with_names,
+                     "Behind each code what it stands for, as in \"stream_type_name\" (json)");
 }
 
 std::vector<std::string> command_names() {

@@ -37,7 +37,8 @@ constexpr Parsing strict = Parsing::strict, tolerant = Parsing::tolerant;
 constexpr CommandRow rows[] = {
     {"dump", "Print every section as text", any, strict, make<DumpCommand>},
     {"xml", "Save all sections as one XML document", any, strict, make<XmlCommand>},
-    {"json", "Print every section as a line of JSON", any, strict, make<JsonCommand>},
+    {"json", "Print every section as a line of JSON", any, strict, make<JsonCommand>,
+     CommandRow::Offer::names},
     {"sections", "List every section as a line of hexadecimal: PID TABLE_ID HEX", bytes, strict,
      make<SectionsCommand>},
     {"services", "List the services with their names, types and states", bytes, tolerant,
@@ -52,11 +53,11 @@ constexpr CommandRow rows[] = {
     {"m3u", "Write the services as a playlist, in the order of channel numbers", packets, tolerant,
      make<M3uCommand>},
     {"check", "Hold the stream to ETSI TR 101 290 and more, and list what is violated", stream, tolerant,
-     make<CheckCommand>, CommandRow::Json::offered},
+     make<CheckCommand>, CommandRow::Offer::json},
     {"report", "Make one HTML page of what is in the stream, and of what is wrong with it", stream, tolerant,
      make<ReportCommand>},
     {"diff", "Tell what two sources do not have in common", with_json, tolerant, make<DiffCommand>,
-     CommandRow::Json::offered, CommandRow::Sources::two},
+     CommandRow::Offer::json, CommandRow::Sources::two},
 };
 
 }  // namespace

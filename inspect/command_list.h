@@ -14,19 +14,19 @@ enum class Input { ts, packets, sections, xml, json };
 
 /// A subcommand. The constructor asks for every part of it, so that none can be left out.
 struct CommandRow {
-  enum class Json { none, offered };
+  enum class Offer { nothing, json, names };
   enum class Sources { one, two };
   using Make = std::unique_ptr<Command>(Showing const& showing);
 
   constexpr CommandRow(char const* its_name, char const* its_help, std::span<Input const> its_inputs,
-                       Parsing its_parsing, Make& its_make, Json its_json = Json::none,
+                       Parsing its_parsing, Make& its_make, Offer its_offer = Offer::nothing,
                        Sources its_sources = Sources::one)
       : name(its_name),
         help(its_help),
         inputs(its_inputs),
         parsing(its_parsing),
         make(&its_make),
-        has_json(its_json == Json::offered),
+        offer(its_offer),
         reads_two(its_sources == Sources::two) {}
 
   /// Those that show each section as it comes show it as it is: the others gather, and print at the end.
@@ -37,7 +37,7 @@ struct CommandRow {
   std::span<Input const> inputs;  ///< what it can read
   Parsing parsing;                ///< unless the user chooses
   Make* make;
-  bool has_json;   ///< whether the option --json gives what it shows to programs
+  Offer offer;     ///< the option of its own: --json gives what it shows to programs
   bool reads_two;  ///< whether it compares two sources
 };
 

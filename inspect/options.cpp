@@ -118,6 +118,7 @@ Options understand(CommandRow const& row, Arguments const& arguments) {
   options.changes = arguments.changes;
   options.quiet = arguments.quiet;
   options.as_json = arguments.as_json;
+  options.with_names = arguments.with_names;
   options.source = arguments.source;
   options.other_source = arguments.other_source;
   options.charset = charset_of(arguments);

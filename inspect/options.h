@@ -27,6 +27,7 @@ struct Arguments {
   std::string charset;
   std::string charset_always;
   bool as_json = false;
+  bool with_names = false;
   std::string source, other_source;
 };
 
@@ -43,6 +44,7 @@ struct Options {
   bool quiet = false;
   sivane::charset::Options charset;
   bool as_json = false;
+  bool with_names = false;
   std::string source;
   std::string other_source;  ///< of a command that compares two; empty otherwise
   Input other_input = Input::ts;

@@ -93,8 +93,8 @@ ExitStatus run(Options const& options) {
   RunEnd end(options.seconds, [&out] { out.flush(); });
   bool const compares_with_document =
       options.command->reads_two && (options.input == Input::xml || options.other_input == Input::xml);
-  auto const command = options.command->make(
-      {out, buffer.is_terminal(), options.charset, options.source, options.as_json, compares_with_document});
+  auto const command = options.command->make({out, buffer.is_terminal(), options.charset, options.source,
+                                              options.as_json, compares_with_document, options.with_names});
   command->set_parsing(options.parsing);
   if (options.changes) command->show_changes_alone();
   ExitStatus const status = read_sources(options, *command, end);

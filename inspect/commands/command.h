@@ -38,6 +38,7 @@ struct Showing {
   std::string source = {};                ///< as the user named it
   bool as_json = false;                   ///< for a program, where the command has a choice
   bool as_documents = false;              ///< of tables what documents keep of them
+  bool with_names = false;                ///< what codes stand for, where the command has a choice
 };
 
 /// What the program does with the sections of its input. It numbers them from 1, and reports and counts those

@@ -40,6 +40,9 @@ void FieldJson::name(sivane::Field const& field) {
 void FieldJson::number(sivane::Field const& field, std::int64_t value) {
   name(field);
   json_.number(static_cast<std::int32_t>(value));
+  if (names_ == nullptr || field.name.empty()) return;
+  CodeNames::Name const name_of_code = names_->behind(field.name, value);
+  if (!name_of_code.text.empty()) json_.member(name_of_code.member, name_of_code.text);
 }
 
 void FieldJson::real(sivane::Field const& field, double value) {

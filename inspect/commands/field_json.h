@@ -5,8 +5,7 @@
 #include <sivane/charset/charset.h>
 #include <sivane/fields/field_visitor.h>
 
-#include <vector>
-
+#include "text/code_names.h"
 #include "text/json.h"
 
 namespace inspect {
@@ -22,6 +21,9 @@ class FieldJson final : public sivane::FieldVisitor {
   /// are told by their fields too, where there is a class for them.
   FieldJson(JsonWriter& json, sivane::charset::Converter& texts, bool of_all_tables = false)
       : json_(json), texts_(texts), of_all_tables_(of_all_tables) {}
+
+  /// Puts behind coded members what they stand for. `names` must outlive the object.
+  void add_names(CodeNames& names) { names_ = &names; }
 
   void number(sivane::Field const& field, std::int64_t value) override;
   void real(sivane::Field const& field, double value) override;
@@ -46,6 +48,7 @@ class FieldJson final : public sivane::FieldVisitor {
   JsonWriter& json_;
   sivane::charset::Converter& texts_;
   bool of_all_tables_;
+  CodeNames* names_ = nullptr;
   sivane::DescriptorBase const* open_ = nullptr;  // the descriptor that is visited
 };
 

@@ -7,7 +7,7 @@
 namespace inspect {
 
 JsonCommand::JsonCommand(Showing const& showing)
-    : json_(showing.out), texts_(with_line_breaks(showing.charset)) {}
+    : json_(showing.out), texts_(with_line_breaks(showing.charset)), with_names_(showing.with_names) {}
 
 void JsonCommand::show(Section const& section) {
   std::unique_ptr<Table> const table = table_of(section);
@@ -16,6 +16,8 @@ void JsonCommand::show(Section const& section) {
   json_.key("table");
   json_.begin_object();
   FieldJson fields(json_, texts_, table->class_name() != "Ait");
+  CodeNames names(table->class_name());
+  if (with_names_) fields.add_names(names);
   table->visit(fields);
   json_.end_object();
   if (!latest_problems().empty()) write_problems();

@@ -22,6 +22,7 @@ class JsonCommand final : public Command {
 
   JsonWriter json_;
   sivane::charset::Converter texts_;
+  bool with_names_;
 };
 
 }  // namespace inspect

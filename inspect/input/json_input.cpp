@@ -6,13 +6,32 @@
 
 #include "diff/json_text.h"
 #include "input/source_stream.h"
+#include "text/code_names.h"
 
 namespace inspect {
 
 namespace {
 
+/// What --names has put behind the codes, which follows from them.
+void drop_names(JsonValue& value) {
+  if (value.IsArray()) {
+    for (JsonValue& item : value.GetArray()) drop_names(item);
+  } else if (value.IsObject()) {
+    auto kept = value.MemberBegin();
+    for (auto& member : value.GetObject()) {
+      if (is_code_name(string_of(member.name))) continue;
+      drop_names(member.value);
+      kept->name.Swap(member.name);
+      kept->value.Swap(member.value);
+      ++kept;
+    }
+    if (kept != value.MemberEnd()) value.EraseMember(kept, value.MemberEnd());
+  }
+}
+
 void give_line(std::string const& line, Command& command) {
-  rapidjson::Document const object = object_of(line);
+  rapidjson::Document object = object_of(line);
+  drop_names(object);
   if (member_of(object, "error") != nullptr) return;
   JsonValue const* const name = member_of(object, "class");
   JsonValue const* const table = member_of(object, "table");

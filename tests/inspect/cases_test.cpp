@@ -19,8 +19,8 @@
 namespace sivane::testing {
 namespace {
 
-constexpr char const* files[] = {"command_line", "dump", "extended", "lists", "sections",
-                                 "packets",      "ts",   "samples",  "xml"};
+constexpr char const* files[] = {"command_line", "dump",    "extended", "lists",   "names",
+                                 "sections",     "packets", "ts",       "samples", "xml"};
 constexpr std::string_view keys[] = {"run", "try", "out", "part", "class", "err", "status"};
 
 using Texts = std::vector<std::string>;

@@ -67,8 +67,14 @@ class InspectDiff : public ::testing::Test {
 TEST_F(InspectDiff, TellsOneNameOneServiceAndOneEventInEveryKindOfInput) {
   Bytes const a = Stream().packets();
   Bytes const b = replaced({{"One", "Ond"}, {"0002 FC 8", "0002 FC 9"}, {"003000", "002000"}}).packets();
-  for (auto const& [of_a, of_b] : std::vector<std::pair<char const*, char const*>>{
-           {"ts", "ts"}, {"xml", "xml"}, {"json", "json"}, {"ts", "xml"}, {"xml", "ts"}, {"ts", "json"}}) {
+  for (auto const& [of_a, of_b] :
+       std::vector<std::pair<char const*, char const*>>{{"ts", "ts"},
+                                                        {"xml", "xml"},
+                                                        {"json", "json"},
+                                                        {"ts", "xml"},
+                                                        {"xml", "ts"},
+                                                        {"ts", "json"},
+                                                        {"json --names", "json"}}) {
     Outcome const same = diff(a, a, of_a, of_b), run = diff(a, b, of_a, of_b);
     EXPECT_EQ(same.out + same.err, "") << of_a << of_b;
     EXPECT_EQ(same.status, 0);
