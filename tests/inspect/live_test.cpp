@@ -68,7 +68,7 @@ TEST(InspectLive, ASignalEndsARunAsItsInputWould) {
 }
 
 TEST(InspectLive, TimeEndsARun) {
-  ToolProcess tool("sections --seconds 0.2 -");
+  ToolProcess tool("sections --seconds 1 -");
   tool.write(stream_of(1));
   EXPECT_EQ(tool.wait(), 0);
   EXPECT_EQ(tool.output(), line(1));

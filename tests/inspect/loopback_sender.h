@@ -10,6 +10,8 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
+#include <fstream>
 #include <string>
 #include <thread>
 
@@ -45,8 +47,30 @@ class LoopbackSender {
     }
     FAIL() << "nobody listens";
   }
+  /// For those who send more than a socket holds before it loses datagrams.
+  void wait_until_all_is_read() const {
+    for (int i = 0; i < 1000; ++i) {
+      if (waiting_bytes() <= 0) return;
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    FAIL() << "what was sent is not read";
+  }
 
  private:
+  /// What the listener's socket holds, as the system's list of sockets tells; -1 without a listener.
+  long waiting_bytes() const {
+    std::ifstream sockets("/proc/net/udp");
+    for (std::string line; std::getline(sockets, line);) {
+      unsigned address, port;
+      unsigned long waiting;
+      if (std::sscanf(line.c_str(), " %*d: %x:%x %*x:%*x %*x %*x:%lx", &address, &port, &waiting) == 3 &&
+          address == address_.sin_addr.s_addr && port == ntohs(address_.sin_port)) {
+        return static_cast<long>(waiting);
+      }
+    }
+    return -1;
+  }
+
   int socket_;
   sockaddr_in address_ = {};
 };
