@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <rapidjson/document.h>
 
+#include <ostream>
+
 #include "loopback_sender.h"
 #include "multiplex.h"
 #include "plain_bytes.h"
@@ -37,6 +39,8 @@ struct Fault {
   void (*apply)(Multiplex&);
   char const* found;
 };
+
+void PrintTo(Fault const& fault, std::ostream* out) { *out << fault.title; }
 
 using M = Multiplex;
 
