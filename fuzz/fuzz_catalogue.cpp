@@ -42,6 +42,8 @@ void ask(Catalogue const& catalogue, std::size_t limit) {
   if (catalogue.memory() > limit + names_of_a_section) std::abort();
   for (auto const& [key, event] : catalogue.events()) {
     if (catalogue.find(key) != &event || catalogue.events_of(key.service).empty()) std::abort();
+    for (auto const& id : event.content_ids)
+      static_cast<void>(id.uri(catalogue.default_authority(key.service)));
     catalogue.present_event(key.service);
   }
   for (auto const& [key, service] : catalogue.services()) {

@@ -49,17 +49,6 @@ Catalogue::EventEntry const* entry_of(std::map<EventKey, Event> const& events, S
   return found == events.end() ? nullptr : &*found;
 }
 
-/// One for all receivers, or else the first.
-ChannelNumber const* number_in(TransportStream const& stream, int service) {
-  ChannelNumber const* first = nullptr;
-  for (ChannelNumber const& number : stream.channel_numbers) {
-    if (number.service != service) continue;
-    if (!number.is_hd_simulcast) return &number;
-    if (first == nullptr) first = &number;
-  }
-  return first;
-}
-
 }  // namespace
 
 Catalogue::EventEntry const* Catalogue::present_event(ServiceKey const& service) const {
@@ -71,30 +60,13 @@ Catalogue::EventEntry const* Catalogue::following_event(ServiceKey const& servic
 }
 
 std::optional<ChannelNumber> Catalogue::channel_number(ServiceKey const& service) const {
-  std::optional<ChannelNumber> first;
-  for (auto const& [key, stream] : state_->networks.telling_of(service.stream())) {
-    ChannelNumber const* const number = number_in(*stream, service.service);
-    Network const* const network = state_->networks.networks().find(key);
-    if (number == nullptr || network == nullptr) continue;
-    if (network->is_actual) return *number;
-    if (!first) first = *number;
-  }
-  return first;
+  return state_->about(service.stream()).channel_number(service.service);
 }
 
 std::string Catalogue::default_authority(ServiceKey const& service) const {
   Service const* const described = find(service);
   if (described != nullptr && !described->default_authority.empty()) return described->default_authority;
-  std::string first;
-  for (auto const& [key, stream] : state_->networks.telling_of(service.stream())) {
-    Network const* const network = state_->networks.networks().find(key);
-    if (network == nullptr) continue;
-    std::string const& told =
-        stream->default_authority.empty() ? network->default_authority : stream->default_authority;
-    if (network->is_actual && !told.empty()) return told;
-    if (first.empty()) first = told;
-  }
-  return first;
+  return state_->about(service.stream()).default_authority();
 }
 
 std::vector<int> Catalogue::ca_systems(ServiceKey const& service) const {

@@ -19,6 +19,11 @@ Taken Catalogue::State::take(Cat const& cat, bool starts_anew) {
   return taken;
 }
 
+Taken Catalogue::State::take(Nit const& nit, bool starts_anew) {
+  about_.reset();
+  return networks.take(nit, starts_anew, desk);
+}
+
 void Catalogue::State::drop(SubTableKey table, Names const& gone) {
   if (gone.empty()) return;
   int const table_id = table_id_of(table);
@@ -26,6 +31,7 @@ void Catalogue::State::drop(SubTableKey table, Names const& gone) {
   if (is_sdt(table_id)) return services.drop(table, gone, desk);
   if (table_id == pat_id) return programs.drop(gone, desk);
   if (table_id == bat_id) return bouquets.drop(table, gone, desk);
+  about_.reset();
   networks.drop(table, gone, desk);
 }
 
@@ -45,6 +51,11 @@ Changes Catalogue::State::add(Tot const& tot) {
     local_times = std::move(told);
   }
   return set_time(tot.UTC_time);
+}
+
+AboutStream const& Catalogue::State::about(StreamKey const& stream) {
+  if (!about_ || about_->stream() != stream) about_.emplace(stream, networks);
+  return *about_;
 }
 
 Changes Catalogue::State::set_time(DateTime const& utc) {

@@ -4,6 +4,7 @@
 // Internal: what a catalogue holds, and how a table gets in.
 #pragma once
 
+#include <sivane/catalogue/about_stream.h>
 #include <sivane/catalogue/catalogue.h>
 #include <sivane/catalogue/event_book.h>
 #include <sivane/catalogue/network_book.h>
@@ -29,6 +30,8 @@ struct Catalogue::State {
   Changes add(Tot const& tot);
   Changes set_time(DateTime const& utc);
   Changes add_section(int pid, unsigned char const* section, std::size_t size);
+  /// Good until networks change, or another stream is asked about.
+  AboutStream const& about(StreamKey const& stream);
   /// What the desk noted.
   Changes told() { return std::exchange(desk.changes, {}); }
 
@@ -47,7 +50,7 @@ struct Catalogue::State {
  private:
   Taken take(Pat const& pat, bool /*starts_anew*/) { return programs.take(pat, desk); }
   Taken take(Pmt const& pmt, bool /*starts_anew*/) { return programs.take(pmt, desk); }
-  Taken take(Nit const& nit, bool starts_anew) { return networks.take(nit, starts_anew, desk); }
+  Taken take(Nit const& nit, bool starts_anew);
   Taken take(Bat const& bat, bool starts_anew) { return bouquets.take(bat, starts_anew, desk); }
   Taken take(Sdt const& sdt, bool /*starts_anew*/) { return services.take(sdt, desk); }
   Taken take(Eit const& eit, bool /*starts_anew*/) { return events.take(eit, desk); }
@@ -62,6 +65,8 @@ struct Catalogue::State {
   void parse(unsigned char const* section, std::size_t size, std::initializer_list<int> tags, Table& table);
   template <class Table>
   Changes parse_and_add(unsigned char const* section, std::size_t size, std::initializer_list<int> tags);
+
+  std::optional<AboutStream> about_;  // that was asked about last: lists ask about its services one by one
 };
 
 template <class Table>

@@ -144,6 +144,7 @@ TEST(Catalogue, NumbersChannelsAsTheNetworksThatAreLeftDo) {
   EXPECT_EQ(numbers("41 F( 0004 C1", "FC04"), 4);
   EXPECT_EQ(numbers("40 F( 0005 C1", "FC05"), 5);
   EXPECT_EQ(numbers("41 F( 0003 C1", "FC03"), 5);
+  EXPECT_FALSE(catalogue.channel_number({1, 3, 7}));
   EXPECT_EQ(numbers("40 F( 0005 C3", "FC06"), 6);
   add(catalogue, "40 F( 0005 C5 00 00 F() F() crc )");
   EXPECT_EQ(catalogue.channel_number(service_7)->number, 3);
