@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <optional>
 #include <ostream>
+#include <set>
+#include <string>
 #include <tuple>
 #include <vector>
 
@@ -53,13 +55,13 @@ std::vector<Item> items_of(Catalogue const& catalogue) {
 
 /// Where nothing describes the services, their programs are all there is.
 void add_programs(Catalogue const& catalogue, std::vector<Item>& items) {
+  std::set<int> described;
+  for (auto const& [key, service] : catalogue.services()) {
+    if (service.is_actual) described.insert(key.service);
+  }
   for (auto const& [key, program] : catalogue.programs()) {
-    int const number = key.number;
-    auto const& services = catalogue.services();
-    bool const is_described = std::any_of(services.begin(), services.end(), [number](auto const& entry) {
-      return entry.second.is_actual && entry.first.service == number;
-    });
-    if (!is_described) items.push_back({{0, 0, number}, {}, "program " + std::to_string(number), ""});
+    if (described.contains(key.number)) continue;
+    items.push_back({{0, 0, key.number}, {}, "program " + std::to_string(key.number), ""});
   }
 }
 

@@ -72,12 +72,14 @@ Pids pids_of(Program const& program) {
   return pids;
 }
 
-/// A service has the number of its program.
-std::string map_content(Catalogue const& catalogue, int number) {
+/// What the PIDs of program maps hold, by program: a service has the number of its program.
+std::map<int, std::string> map_contents(Catalogue const& catalogue) {
+  std::map<int, std::string> contents;
   for (auto const& [key, service] : catalogue.services()) {
-    if (key.service == number && !service.name.empty()) return "PMT of " + service.name;
+    if (!service.name.empty()) contents.try_emplace(key.service, "PMT of " + service.name);
   }
-  return "PMT";
+  for (auto const& [key, program] : catalogue.programs()) contents.try_emplace(key.number, "PMT");
+  return contents;
 }
 
 /// The rows of the list.
@@ -146,10 +148,11 @@ void ProgramsCommand::show(Section const& section) {
 
 bool ProgramsCommand::print(Catalogue const& catalogue, std::ostream& out) {
   Rows rows(counts_);
+  auto const maps = map_contents(catalogue);
   for (auto const& [key, program] : catalogue.programs()) {
     if (!program.map_pid) continue;
     std::string const number = std::to_string(key.number);
-    rows.add(number, *program.map_pid, {map_content(catalogue, key.number), {}, {}});
+    rows.add(number, *program.map_pid, {maps.at(key.number), {}, {}});
     if (!program.is_mapped) continue;
     for (auto const& [pid, content] : pids_of(program)) rows.add(number, pid, content);
   }
