@@ -30,7 +30,7 @@ RepetitionMeasures::RepetitionMeasures(Findings& findings, StreamTables const& t
 }
 
 std::int64_t RepetitionMeasures::limit_of(Repeated const& repeated, TableRule const& rule) const {
-  return longest_interval(rule, repeated.table.table_id, repeated.number, is_terrestrial());
+  return longest_interval(rule, repeated.table.table_id, repeated.number, tables_.counts_as_terrestrial());
 }
 
 std::string RepetitionMeasures::text_of(Repeated const& repeated) const {

@@ -43,7 +43,6 @@ class RepetitionMeasures {
   std::int64_t limit_of(Repeated const& repeated, TableRule const& rule) const;
 
  private:
-  bool is_terrestrial() const { return tables_.is_terrestrial() || !tables_.knows_network(); }
   void expect(Repeated const& repeated, Place const& now);
   void judge_gap(Observation const& observation, TableRule const& rule, std::int64_t began);
   void judge_interval(Repeated const& repeated, Course& course, Place const& now);

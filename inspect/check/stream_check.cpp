@@ -29,7 +29,7 @@ StreamCheck::StreamCheck()
       clocks_(findings_, tables_),
       references_(findings_, tables_),
       repetition_(findings_, tables_),
-      versions_(findings_) {
+      versions_(findings_, tables_) {
   for (int const pid : pids_of_tables) {
     pid_watch_.look_for_sections(pid);
     section_watch_.watch(pid);
@@ -161,7 +161,7 @@ void StreamCheck::finish() {
   clock_.run_on_to(end_.offset);
   judge_what_waits();
   end_ = timed(end_);
-  versions_.finish();
+  versions_.finish(end_);
   repetition_.finish(end_);
   clocks_.finish(end_);
   references_.finish(end_);

@@ -34,8 +34,8 @@ class StreamTables {
   bool has_pat() const { return has_pat_; }
   bool has_cat() const { return has_cat_; }
   bool has_all_maps() const;
-  bool is_terrestrial() const { return is_terrestrial_; }
-  bool knows_network() const { return knows_network_; }
+  /// Whether the limits of terrestrial networks hold: also where no NIT says what it is.
+  bool counts_as_terrestrial() const { return is_terrestrial_ || !knows_network_; }
   std::map<int, Program> const& programs() const { return programs_; }
   /// Those that are said to have an EIT p/f.
   std::set<AnnouncedService> const& services() const { return services_; }

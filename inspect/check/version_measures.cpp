@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "check/subject_texts.h"
+#include "check/table_rules.h"
 #include "text/hexadecimal.h"
 
 namespace inspect {
@@ -46,7 +47,7 @@ bool VersionMeasures::take(Observation const& observation) {
 void VersionMeasures::begin_version(Version& version, Observation const& observation) {
   SectionSight const& section = observation.section;
   if (version.number >= 0) {
-    judge(sub_table_of(observation), version);
+    judge(sub_table_of(observation), version, observation.place);
     if (goes_back(version.number, section.version)) {
       findings_.add(Measure::version_back, table_text(observation.pid, section), observation.place,
                     "from " + std::to_string(version.number) + " to " + std::to_string(section.version));
@@ -69,44 +70,58 @@ bool VersionMeasures::has_come_round(Version const& version) {
                              [](auto const& section) { return section.second >= enough_cycles; });
 }
 
+/// Those of later days come less often than those that have come.
+bool VersionMeasures::is_due(SubTable const& table, int section, Version const& version,
+                             Place const& now) const {
+  TableRule const* const rule = is_schedule(table.table_id) ? rule_of(table.pid, table.table_id) : nullptr;
+  if (rule == nullptr || now.ticks < 0 || version.first.ticks < 0) return true;
+  std::int64_t const limit =
+      longest_interval(*rule, table.table_id, section, tables_.counts_as_terrestrial());
+  return now.ticks - version.first.ticks > limit;
+}
+
 /// A pair of present and following has a measure of its own.
-void VersionMeasures::judge(SubTable const& table, Version const& version) {
+void VersionMeasures::judge(SubTable const& table, Version const& version, Place const& now) {
   if (!has_come_round(version) || is_present_following(table.table_id)) return;
   for (int section = 0; section <= version.last_section; ++section) {
     if (version.sections.contains(section) || !is_wanted(table, version, section)) continue;
+    if (!is_due(table, section, version, now)) continue;
     findings_.add(Measure::missing_section, table_text(table.pid, as_section(table)), version.first,
                   "section " + std::to_string(section) + " of 0 to " + std::to_string(version.last_section));
   }
-  if (is_schedule(table.table_id)) judge_segments(table, version);
+  if (is_schedule(table.table_id)) judge_segments(table, version, now);
 }
 
 /// Segments that have passed may be left out at the front of the first table.
-void VersionMeasures::judge_segments(SubTable const& table, Version const& version) {
+void VersionMeasures::judge_segments(SubTable const& table, Version const& version, Place const& now) {
   bool const is_first_table = table.table_id % tables_of_schedule == 0;
   int const begin = is_first_table ? version.segments.begin()->first : 0;
   for (int segment = begin; segment <= version.last_section / sections_of_segment; ++segment) {
     if (version.segments.contains(segment)) continue;
+    if (!is_due(table, segment * sections_of_segment, version, now)) continue;
     findings_.add(Measure::missing_segment, table_text(table.pid, as_section(table)), version.first,
                   "segment " + std::to_string(segment));
   }
 }
 
 /// Up to the next one that came, so that each is told once.
-void VersionMeasures::judge_tables_behind(SubTable const& table, Version const& version) {
-  if (!is_schedule(table.table_id) || !has_come_round(version)) return;
+void VersionMeasures::judge_tables_behind(SubTable const& table, Version const& version, Place const& now) {
+  bool const is_full = versions_.size() >= most_sub_tables;  // and it may have come all the same
+  if (is_full || !is_schedule(table.table_id) || !has_come_round(version)) return;
   int const end_of_kind = (table.table_id / tables_of_schedule + 1) * tables_of_schedule;
   int const last = std::min(version.last_table, end_of_kind - 1);
   SubTable next = table;
   while (++next.table_id <= last && !versions_.contains(next)) {
+    if (!is_due(next, 0, version, now)) continue;
     findings_.add(Measure::missing_table, table_text(next.pid, as_section(next)), version.first,
                   "last_table_id is " + c_hexadecimal(version.last_table, 1));
   }
 }
 
-void VersionMeasures::finish() {
+void VersionMeasures::finish(Place const& end) {
   for (auto const& [table, version] : versions_) {
-    judge(table, version);
-    judge_tables_behind(table, version);
+    judge(table, version, end);
+    judge_tables_behind(table, version, end);
   }
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <map>
 
+#include "check/stream_tables.h"
 #include "check/sub_table.h"
 
 namespace inspect {
@@ -13,11 +14,11 @@ namespace inspect {
 /// table lacks.
 class VersionMeasures {
  public:
-  explicit VersionMeasures(Findings& findings) : findings_(findings) {}
+  VersionMeasures(Findings& findings, StreamTables const& tables) : findings_(findings), tables_(tables) {}
 
   /// True if a new version begins with the section.
   bool take(Observation const& observation);
-  void finish();
+  void finish(Place const& end);
 
  private:
   struct Version {
@@ -31,12 +32,14 @@ class VersionMeasures {
 
   static bool has_come_round(Version const& version);
   void begin_version(Version& version, Observation const& observation);
-  void judge(SubTable const& table, Version const& version);
-  void judge_segments(SubTable const& table, Version const& version);
-  void judge_tables_behind(SubTable const& table, Version const& version);
+  void judge(SubTable const& table, Version const& version, Place const& now);
+  void judge_segments(SubTable const& table, Version const& version, Place const& now);
+  void judge_tables_behind(SubTable const& table, Version const& version, Place const& now);
   bool is_wanted(SubTable const& table, Version const& version, int section) const;
+  bool is_due(SubTable const& table, int section, Version const& version, Place const& now) const;
 
   Findings& findings_;
+  StreamTables const& tables_;
   std::map<SubTable, Version> versions_;
 };
 

@@ -133,18 +133,24 @@ constexpr Fault faults[] = {
     {"a section missing", 8000,
      [](M& m) { m.repeat("bat", 0x11, 1000, 309, assemble("4A F( 0001 C1 00 01 F( ) F( ) crc )")); },
      "Missing_section 1 309\n"},
-    {"a segment missing", 8000,
+    {"a segment missing", 12000,
      [](M& m) {
        m.repeat("schedule 0", 0x12, 1000, 211, assemble("50 F( 0001 C1 00 10 0001 0001 00 50 crc )"));
        m.repeat("schedule 1", 0x12, 1000, 711, assemble("50 F( 0001 C1 10 10 0001 0001 10 50 crc )"));
      },
      "Missing_segment 1 211\n"},
-    {"a table missing", 8000,
+    {"a table missing", 12000,
      [](M& m) {
        m.repeat("schedule 0", 0x12, 1000, 211, assemble("50 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
        m.repeat("schedule 1", 0x12, 1000, 711, assemble("52 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
      },
      "Missing_table 1 211\n"},
+    {"a table that comes less often", 28000,
+     [](M& m) {
+       m.repeat("schedule 0", 0x12, 1000, 211, assemble("51 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
+       m.repeat("schedule 1", 0x12, 30000, 29711, assemble("52 F( 0001 C1 00 00 0001 0001 00 52 crc )"));
+     },
+     ""},
     {"a section that fails", 8000,
      [](M& m) { m.add(5060, 0x11, assemble("4A F( 0002 C1 00 00 F( ) FFFF crc )")); },
      "Failed_section 1 5060\n"},
