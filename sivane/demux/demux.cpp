@@ -88,7 +88,7 @@ int Demux::start() {
   unsigned char packet[ts_packet_size];
   int got = 0;
   while (read_buf(packet, ts_packet_size, got) && got == ts_packet_size && !stopped) {
-    begin_packet(ts_packet_size);
+    begin_packet();
     guard([&] { on_raw_ts_packet(packet); });
     bool const is_packet = packet[0] == ts_sync_byte;
     if (is_packet) route_packet(packet);

@@ -196,9 +196,9 @@ class SIVANE_API Demux {
   class SIVANE_LOCAL Receptions;
   static constexpr int pid_count = 0x2000;
 
-  void begin_packet(int stride) {
+  void begin_packet() {
     packet_offset_ = next_offset_;
-    next_offset_ += static_cast<unsigned int>(stride);
+    next_offset_ += ts_packet_size;
   }
   /// Shows a packet that begins with 0x47 to the hooks and gives it to the handler of its PID.
   void route_packet(unsigned char const* packet);

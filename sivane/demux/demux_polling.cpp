@@ -31,7 +31,7 @@ void Demux2::poll(int pid, unsigned char* packet, int& length) {
   log_write(3, "read_buf(%d)=%d", length, result ? 1 : 0);
   if (!result || length != ts_packet_size) return;
   log_write(3, "bytes read");
-  begin_packet(ts_packet_size);
+  begin_packet();
   guard([&] { on_raw_ts_packet(packet); });
   if (packet[0] != ts_sync_byte) {
     log_write(3, "invalid sync byte");
