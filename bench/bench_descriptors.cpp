@@ -2,21 +2,16 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Descriptor loops as they stand in the tables of a broadcast, parsed into the sets of their owners.
-#include <sivane/descriptors/descriptor_set.h>
-
 #include <string_view>
 
 #include "compare.h"
 #include "count.h"
-#include "plain_bytes.h"
+#include "descriptor_loops.h"
 
 namespace {
 
-using sivane::testing::Bytes;
-using sivane::testing::characters;
-using sivane::testing::hex;
-using sivane::testing::make_descriptor;
-using sivane::testing::operator+;
+using namespace sivane::testing;  // how bytes are written
+using sivane::bench::parse_loops;
 
 Bytes prefixed(std::string_view text) {
   return Bytes{static_cast<unsigned char>(text.size())} + characters(text);
@@ -62,15 +57,6 @@ int descriptors_in(std::vector<Bytes> const& all) {
   return count;
 }
 
-void parse(std::vector<Bytes> const& all, std::vector<sivane::DescriptorSet>& owners) {
-  owners.clear();
-  for (Bytes const& loop : all) {
-    int const size = static_cast<int>(loop.size());
-    sivane::Reader reader = sivane::Reader::within(loop.data(), size);
-    owners.emplace_back().parse_descriptors(reader, size, sivane::too_little_data);
-  }
-}
-
 /// The least that keeps descriptors: a block of memory for the bytes of each.
 void keep_bytes(std::vector<Bytes> const& all, std::vector<std::vector<Bytes>>& owners) {
   owners.clear();
@@ -90,11 +76,11 @@ void parse_descriptors(benchmark::State& state) {
   auto const repeat = [](auto once) {
     for (int i = 0; i < rounds; ++i) once();
   };
-  parse(all, owners);  // the vector of owners has its memory from here on
-  std::size_t const taken = sivane::testing::allocations_of([&] { parse(all, owners); });
+  parse_loops(all, owners);  // the vector of owners has its memory from here on
+  std::size_t const taken = allocations_of([&] { parse_loops(all, owners); });
   sivane::bench::compare(
       state, bytes, "the time of keeping the bytes of each in a block of memory",
-      [&] { repeat([&] { parse(all, owners); }); }, [&] { repeat([&] { keep_bytes(all, copies); }); });
+      [&] { repeat([&] { parse_loops(all, owners); }); }, [&] { repeat([&] { keep_bytes(all, copies); }); });
   state.counters["allocations"] = static_cast<double>(taken) / descriptors_in(all);
 }
 

@@ -2,21 +2,17 @@
 // Copyright (c) 2026 the sivane authors
 //
 // What the classes that are built on demand cost: nothing where nobody asks for them.
-#include <sivane/descriptors/descriptor_set.h>
 #include <sivane/descriptors/extended/extended.h>
 
 #include <string_view>
 
 #include "compare.h"
-#include "plain_bytes.h"
+#include "descriptor_loops.h"
 
 namespace {
 
-using sivane::testing::Bytes;
-using sivane::testing::characters;
-using sivane::testing::hex;
-using sivane::testing::make_descriptor;
-using sivane::testing::operator+;
+using namespace sivane::testing;  // how bytes are written
+using sivane::bench::parse_loops;
 
 /// Of today's streams, services and events; or the same bytes under tags that no class has.
 std::vector<Bytes> loops(bool have_classes) {
@@ -31,15 +27,6 @@ std::vector<Bytes> loops(bool have_classes) {
       make(0x76, hex("04 05 2F31323334")),
       make_descriptor(0x5F, hex("00000028")) + make(0x83, hex("0001FC01 0002FC02")),
   };
-}
-
-void parse(std::vector<Bytes> const& all, std::vector<sivane::DescriptorSet>& owners) {
-  owners.clear();
-  for (Bytes const& loop : all) {
-    int const size = static_cast<int>(loop.size());
-    sivane::Reader reader = sivane::Reader::within(loop.data(), size);
-    owners.emplace_back().parse_descriptors(reader, size, sivane::too_little_data);
-  }
 }
 
 void build(std::vector<sivane::DescriptorSet> const& owners) {
@@ -62,16 +49,17 @@ void file_as_bytes(benchmark::State& state) {
   std::vector<sivane::DescriptorSet> owners;
   sivane::bench::compare(
       state, 0, "the time of as many bytes under tags that no class has",
-      [&] { repeat([&] { parse(known, owners); }); }, [&] { repeat([&] { parse(unknown, owners); }); });
+      [&] { repeat([&] { parse_loops(known, owners); }); },
+      [&] { repeat([&] { parse_loops(unknown, owners); }); });
 }
 
 void build_on_demand(benchmark::State& state) {
   std::vector<Bytes> const known = loops(true);
   std::vector<sivane::DescriptorSet> owners, filed;
-  parse(known, filed);
+  parse_loops(known, filed);
   sivane::bench::compare(
       state, 0, "the time of filing them", [&] { repeat([&] { build(filed); }); },
-      [&] { repeat([&] { parse(known, owners); }); });
+      [&] { repeat([&] { parse_loops(known, owners); }); });
 }
 
 }  // namespace
