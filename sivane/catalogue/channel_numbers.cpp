@@ -2,10 +2,8 @@
 // Copyright (c) 2026 the sivane authors
 //
 // Logical channel numbers are private descriptors: whose they are says the private data specifier in force.
+#include <sivane/catalogue/extended_reading.h>
 #include <sivane/catalogue/network_reading.h>
-#include <sivane/descriptors/extended/extended.h>
-
-#include <optional>
 
 namespace sivane::catalogue {
 
@@ -19,22 +17,18 @@ void append(Services const& services, std::vector<ChannelNumber>& numbers, bool 
   }
 }
 
-template <class Descriptor>
-std::optional<Descriptor> read(DescriptorGeneral const& descriptor) {
-  return extended::as<Descriptor>(descriptor, extended::Malformed::is_nothing);
-}
-
 }  // namespace
 
 std::vector<ChannelNumber> channel_numbers_of(DescriptorSet const& entry) {
   std::vector<ChannelNumber> numbers;
   for (DescriptorGeneral const& descriptor : entry.get_user_private_descriptors()) {
-    if (auto const eacem = read<DescriptorLogicalChannel>(descriptor)) append(eacem->services, numbers);
-    if (auto const simulcast = read<DescriptorHDSimulcastLogicalChannel>(descriptor))
+    if (auto const eacem = read_extended<DescriptorLogicalChannel>(descriptor))
+      append(eacem->services, numbers);
+    if (auto const simulcast = read_extended<DescriptorHDSimulcastLogicalChannel>(descriptor))
       append(simulcast->services, numbers, true);
-    if (auto const nordig = read<DescriptorNorDigLogicalChannel>(descriptor))
+    if (auto const nordig = read_extended<DescriptorNorDigLogicalChannel>(descriptor))
       append(nordig->services, numbers);
-    if (auto const lists = read<DescriptorNorDigChannelLists>(descriptor)) {
+    if (auto const lists = read_extended<DescriptorNorDigChannelLists>(descriptor)) {
       for (auto const& list : lists->channel_lists) append(list.services, numbers);
     }
   }

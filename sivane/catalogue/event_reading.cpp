@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
 #include <sivane/catalogue/event_reading.h>
+#include <sivane/catalogue/extended_reading.h>
 #include <sivane/catalogue/values.h>
-#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 #include <string_view>
@@ -92,7 +92,7 @@ std::vector<Component> components_of(Eit::EventInfo const& info, charset::Conver
 std::vector<ContentId> content_ids_of(Eit::EventInfo const& info) {
   std::vector<ContentId> ids;
   for (DescriptorGeneral const& bytes : info.get_general_descriptors()) {
-    auto const descriptor = extended::as<DescriptorContentIdentifier>(bytes, extended::Malformed::is_nothing);
+    auto const descriptor = read_extended<DescriptorContentIdentifier>(bytes);
     if (!descriptor) continue;
     for (auto const& one : descriptor->crids) {
       if (!one.crid.empty()) ids.push_back({one.crid_type, uri_text(one.crid)});

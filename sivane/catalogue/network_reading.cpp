@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/catalogue/extended_reading.h>
 #include <sivane/catalogue/network_reading.h>
 #include <sivane/catalogue/values.h>
-#include <sivane/descriptors/extended/extended.h>
 
 namespace sivane::catalogue {
 
@@ -111,11 +111,10 @@ Delivery delivery_of(DescriptorC2DeliverySystem const& descriptor) {
   return delivery;
 }
 
-/// One that is no set's own; nothing where it is of another class, or broken.
 template <class Descriptor>
 void append_if(DescriptorGeneral const& bytes, std::vector<Delivery>& deliveries) {
-  auto const descriptor = extended::as<Descriptor>(bytes, extended::Malformed::is_nothing);
-  if (descriptor) deliveries.push_back(delivery_of(*descriptor));
+  if (auto const descriptor = read_extended<Descriptor>(bytes))
+    deliveries.push_back(delivery_of(*descriptor));
 }
 
 template <class Descriptors>

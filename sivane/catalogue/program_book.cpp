@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/catalogue/extended_reading.h>
 #include <sivane/catalogue/program_book.h>
 #include <sivane/catalogue/table_ids.h>
 #include <sivane/catalogue/values.h>
-#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 
@@ -15,15 +15,6 @@ bool has_general(PmtStreamInfo const& stream, int tag) {
   auto const& descriptors = stream.get_general_descriptors();
   return std::any_of(descriptors.begin(), descriptors.end(),
                      [tag](auto const& other) { return other.tag == tag; });
-}
-
-/// The first of the class.
-template <class Descriptor>
-std::optional<Descriptor> find_extended(PmtStreamInfo const& stream) {
-  for (DescriptorGeneral const& bytes : stream.get_general_descriptors()) {
-    if (auto found = extended::as<Descriptor>(bytes, extended::Malformed::is_nothing)) return found;
-  }
-  return std::nullopt;
 }
 
 ElementaryStream::Coding coding_of(PmtStreamInfo const& stream) {

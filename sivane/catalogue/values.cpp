@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Copyright (c) 2026 the sivane authors
+#include <sivane/catalogue/extended_reading.h>
 #include <sivane/catalogue/values.h>
-#include <sivane/descriptors/extended/extended.h>
 
 #include <algorithm>
 
@@ -31,11 +31,8 @@ std::string uri_text(std::string const& bytes) {
 }
 
 std::string default_authority_of(DescriptorSet const& set) {
-  for (DescriptorGeneral const& bytes : set.get_general_descriptors()) {
-    auto const descriptor = extended::as<DescriptorDefaultAuthority>(bytes, extended::Malformed::is_nothing);
-    if (descriptor) return uri_text(descriptor->default_authority);
-  }
-  return {};
+  auto const descriptor = find_extended<DescriptorDefaultAuthority>(set);
+  return descriptor ? uri_text(descriptor->default_authority) : std::string();
 }
 
 std::vector<LocalTimeOffset> local_times_of(DescriptorSet const& set) {
