@@ -122,7 +122,7 @@ void print_supplementary_audio(Catalogue const& catalogue, std::ostream& out) {
     for (ElementaryStream const& stream : program.streams) {
       if (!stream.supplementary) continue;
       SupplementaryAudio const& audio = *stream.supplementary;
-      columns.add({std::to_string(key.number), c_hexadecimal(stream.pid, 2), audio.purpose(),
+      columns.add({std::to_string(key.number), c_hexadecimal(stream.pid, 2), purpose_text(audio),
                    audio.language.empty() ? "-" : audio.language,
                    audio.is_complete ? "by itself" : "mixed into the main audio"});
     }

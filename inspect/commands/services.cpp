@@ -8,8 +8,8 @@
 #include <ostream>
 #include <tuple>
 
-#include "text/hexadecimal.h"
 #include "text/names.h"
+#include "text/service_types.h"
 #include "text/terminal.h"
 
 namespace inspect {
@@ -26,9 +26,8 @@ std::string running_text(int status) {
 }
 
 std::string type_text(Service const& service) {
-  if (service.type < 0) return "-";
-  char const* const text = service.type_name();
-  return text == nullptr ? c_hexadecimal(service.type, 1) : text;
+  std::string const text = service_type_text(service);
+  return text.empty() ? "-" : text;
 }
 
 std::string shown_text(sivane::catalogue::ChannelNumber const& channel) {

@@ -6,8 +6,8 @@
 
 #include <string>
 
-#include "text/hexadecimal.h"
 #include "text/names.h"
+#include "text/service_types.h"
 #include "text/stream_types.h"
 #include "text/usual_pids.h"
 
@@ -20,9 +20,9 @@ using namespace sivane::catalogue;
 constexpr std::size_t most_events = 20000;
 constexpr double ticks_of_second = 27e6;
 
-std::string joined(std::vector<std::string> const& words) {
+std::string joined(std::vector<std::string> const& words, char const* between = ", ") {
   std::string text;
-  for (std::string const& word : words) text += (text.empty() ? "" : ", ") + word;
+  for (std::string const& word : words) text += (text.empty() ? "" : between) + word;
   return text;
 }
 
@@ -33,8 +33,8 @@ std::string longer_text(EventText const& text) {
   return all;
 }
 
-/// Each as "H.264 video (deu): wide"; what it leaves open is left out.
-std::vector<std::string> components_of(Event const& event) {
+/// Each as "H.264/AVC video (deu): 16:9, 25 Hz"; what it leaves open is left out.
+std::string components_of(Event const& event) {
   std::vector<std::string> components;
   for (Component const& component : event.components) {
     char const* const coding = component.coding_name();
@@ -43,7 +43,7 @@ std::vector<std::string> components_of(Event const& event) {
     if (!component.text.empty()) text += ": " + component.text;
     components.push_back(std::move(text));
   }
-  return components;
+  return joined(components, "; ");
 }
 
 std::string genres_of(Event const& event) {
@@ -71,7 +71,7 @@ void write_event(JsonWriter& json, Catalogue const& catalogue, ServiceKey const&
   json.member("duration", event.duration ? event.duration->count() : 0);
   json.member("title", event.title());
   json.member("genres", genres_of(event));
-  json.member("components", joined(components_of(event)));
+  json.member("components", components_of(event));
   json.member("content_ids", content_ids_of(event, catalogue.default_authority(service)));
   json.key("texts");
   json.begin_array();
@@ -101,12 +101,6 @@ std::map<int, std::string> contents_of(Catalogue const& catalogue) {
     for (auto const& stream : program.streams) add(stream.pid, stream_type_text(stream) + number);
   }
   return contents;
-}
-
-std::string type_text(Service const& service) {
-  if (service.type < 0) return "";
-  char const* const text = service.type_name();
-  return text == nullptr ? c_hexadecimal(service.type, 1) : text;
 }
 
 void write_course(JsonWriter& json, RateCourse const& course, int pid) {
@@ -144,7 +138,7 @@ void write_services(JsonWriter& json, Catalogue const& catalogue) {
     json.member("service", key.service);
     json.member("name", service.name);
     json.member("provider", service.provider);
-    json.member("type", type_text(service));
+    json.member("type", service_type_text(service));
     json.key("scrambled");
     json.flag(service.is_scrambled);
     json.key("actual");
@@ -169,7 +163,7 @@ void write_programs(JsonWriter& json, Catalogue const& catalogue) {
       json.member("pid", stream.pid);
       json.member("type", stream_type_text(stream));
       json.member("languages", joined(stream.languages));
-      json.member("supplementary", stream.supplementary ? stream.supplementary->purpose() : "");
+      json.member("supplementary", stream.supplementary ? purpose_text(*stream.supplementary) : "");
       json.end_object();
     }
     json.end_array();

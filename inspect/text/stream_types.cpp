@@ -49,4 +49,9 @@ std::string stream_type_text(ElementaryStream const& stream) {
   return text != nullptr ? text : "stream type " + c_hexadecimal(stream.stream_type, 1);
 }
 
+std::string purpose_text(sivane::catalogue::SupplementaryAudio const& audio) {
+  std::string const text = audio.purpose();
+  return text == "<unknown>" ? c_hexadecimal(audio.classification, 1) : text;
+}
+
 }  // namespace inspect
