@@ -65,7 +65,11 @@ bool is_kept(PyObject* name, py::object const& value) {
 py::object member(Node& node, PyObject* name) {
   Py_ssize_t size = 0;
   char const* const letters = PyUnicode_AsUTF8AndSize(name, &size);
-  if (letters == nullptr) throw py::error_already_set();
+  if (letters == nullptr && PyErr_ExceptionMatches(PyExc_UnicodeError) == 0) throw py::error_already_set();
+  if (letters == nullptr) {  // no field has such a name
+    PyErr_Clear();
+    return {};
+  }
   py::object value = attribute(node.place, {letters, static_cast<std::size_t>(size)});
   if (is_kept(name, value)) {
     node.known.emplace_back(name, value.ptr());
@@ -81,6 +85,7 @@ PyObject* get_attribute(PyObject* self, PyObject* name) {
   for (auto const& [known, value] : node.known) {
     if (known == name) return Py_NewRef(value);
   }
+  if (!PyUnicode_Check(name)) return PyObject_GenericGetAttr(self, name);  // which refuses it
   bool const is_special = PyUnicode_GET_LENGTH(name) > 0 && PyUnicode_READ_CHAR(name, 0) == '_';
   if (!is_special) {
     PyObject* const value = new_reference([&] { return member(node, name); });

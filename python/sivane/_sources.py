@@ -2,6 +2,7 @@
 # Copyright (c) 2026 the sivane authors
 """Where bytes come from: whatever a source is, it becomes pieces of bytes."""
 
+import errno
 import os
 import sys
 from collections.abc import Callable, Iterable, Iterator
@@ -20,7 +21,7 @@ Bytes: TypeAlias = bytes | bytearray | memoryview
 class Readable(Protocol):
     """What has bytes to read, as a file that is open for them."""
 
-    def read(self, size: int, /) -> bytes: ...
+    def read(self, size: int, /) -> bytes | None: ...
 
 
 Source: TypeAlias = str | os.PathLike[str] | Readable | Bytes | Iterable[Bytes]
@@ -60,7 +61,7 @@ def open_source(source: Source) -> Pieces:
     if isinstance(source, str) and _adapter.is_adapter(source):
         adapter = _adapter.Adapter(source, PIECE)
         return Pieces(adapter, adapter.close)
-    if source == "-":
+    if isinstance(source, str) and source == "-":
         return Pieces(_read(sys.stdin.buffer))
     if isinstance(source, (str, os.PathLike)):
         file = open(source, "rb", buffering=0)
@@ -75,6 +76,8 @@ def open_source(source: Source) -> Pieces:
 def _read(file: Readable) -> Iterator[Bytes]:
     while piece := file.read(PIECE):
         yield piece
+    if piece is None:
+        raise BlockingIOError(errno.EAGAIN, "the source does not wait for what is still to come")
 
 
 def _cut(block: Bytes) -> Iterator[Bytes]:

@@ -57,6 +57,9 @@ def test_values_are_true_where_documents_have_signs():
         table.no_such_field
     with pytest.raises(AttributeError):
         table.crc32 = 0
+    with pytest.raises(TypeError):
+        table.__getattribute__(5)
+    assert not hasattr(table, "\ud800")
     for made in [sivane.Pat, sivane.Descriptor, sivane.Section]:
         with pytest.raises(TypeError):
             made()

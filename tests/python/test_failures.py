@@ -108,6 +108,15 @@ def test_a_file_that_vanishes(tmp_path):
         sivane.catalogue(Failing())
 
 
+def test_a_source_that_does_not_wait():
+    reading, writing = os.pipe()
+    os.set_blocking(reading, False)
+    with open(reading, "rb", buffering=0) as file, open(writing, "wb", buffering=0) as other:
+        other.write(b"".join(packets(PAT, count=9)))
+        with pytest.raises(BlockingIOError):
+            list(sivane.sections(file))
+
+
 def test_files_are_closed(tmp_path):
     path = tmp_path / "recording.ts"
     path.write_bytes(b"".join(packets(PAT, count=5000)))

@@ -118,3 +118,5 @@ def test_registrations(sample):
     for wrong in [[(0x2000, 0)], [(0, 256)], [(-1, 0)]]:
         with pytest.raises(ValueError):
             sivane.sections(sample, registrations=wrong)
+    with pytest.raises(TypeError, match="pair of numbers"):
+        sivane.sections(sample, registrations=[(0,)])
