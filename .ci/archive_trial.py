@@ -82,6 +82,10 @@ def run_that_loses_a_worker(folder, out, copies):
     finish(run, 1)
 
 
+def states(folder):
+    return {path: (path.stat().st_ino, path.stat().st_mtime_ns) for path in pathlib.Path(folder).glob("killed*")}
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("recordings", nargs="+", type=pathlib.Path)
@@ -100,9 +104,9 @@ def main():
         check_output(out, folder, hopeless)
         print("a worker killed in the middle: every recording once")
 
-        before = {path: path.stat() for path in pathlib.Path(scratch).glob("killed*")}
+        before = states(scratch)
         assert f" 0 read, {options.copies} unchanged" in finish(start(folder, out, 2), 0)
-        assert {path: path.stat() for path in pathlib.Path(scratch).glob("killed*")} == before, "the second run wrote"
+        assert states(scratch) == before, "the second run wrote"
 
 
 if __name__ == "__main__":

@@ -25,6 +25,11 @@ def run(folder, *arguments):
     return ended.returncode, ended.stdout
 
 
+def states(folder):
+    """Which files the output is, and when they were written."""
+    return {path: (path.stat().st_ino, path.stat().st_mtime_ns) for path in folder.glob("out*")}
+
+
 def rows(folder, kind):
     with open(folder / f"out.{kind}.jsonl") as table:
         return [json.loads(line) for line in table]
@@ -52,9 +57,9 @@ def test_reads_what_is_new_or_changed(archive):
     assert len(rows(archive, "services")) == 6
 
     (archive / "in/pipe.ts").unlink()
-    before = {path: path.stat() for path in archive.glob("out*")}
+    before = states(archive)
     assert run(archive)[0] == 0
-    assert {path: path.stat() for path in archive.glob("out*")} == before
+    assert states(archive) == before
 
     shutil.copy(SAMPLE, archive / "in/damaged.ts")
     status, printed = run(archive)
@@ -78,12 +83,36 @@ def test_cuts_off_what_was_half_written(tmp_path):
         assert (tmp_path / "out").read_bytes() == whole
 
 
-@pytest.mark.parametrize("content", [b"<document/>", b'{"kind": "x"}\n', whole := b"".join(LINES) + b"\n", b'{"a": 1}\n' + whole])
+@pytest.mark.parametrize("content", [b"<document/>", b'{"kind": "x"}\n', whole := b"".join(LINES) + b"\n", b'{"a": 1}\n' + whole,
+                                     LINES[1][:-9] + b"\n", LINES[1].replace(b"size", b"Size"), LINES[1].replace(b'"/a"', b"[]")])
 def test_leaves_other_files_alone(tmp_path, content):
     (tmp_path / "out").write_bytes(content)
     with pytest.raises(StoreError):
         Store(str(tmp_path / "out"))
     assert (tmp_path / "out").read_bytes() == content
+
+
+def test_keeps_to_regular_files(tmp_path):
+    with pytest.raises(StoreError, match="regular"):
+        Store(os.devnull)
+    (tmp_path / "link").symlink_to("out")
+    with Store(str(tmp_path / "link")) as store:
+        store.append(b"".join(LINES))
+        store.append(b"".join(LINES))
+        store.drop_old_lines()
+        os.truncate(tmp_path / "link", 9)
+        with pytest.raises(StoreError, match="cut"):
+            list(store.lines())
+    assert (tmp_path / "link").is_symlink()
+
+
+def test_no_scheduler_has_such_an_address():
+    pytest.importorskip("distributed")
+    from sivane.archive.cluster import connect
+
+    for address in ["", "nowhere", "what://nowhere:1"]:
+        with pytest.raises(OSError), connect(address, 1):
+            pass
 
 
 def test_is_written_by_one_process_at_a_time(tmp_path):

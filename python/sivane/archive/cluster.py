@@ -24,7 +24,10 @@ def connect(scheduler: str | None, workers: int) -> Iterator[Client]:
             with _uninterrupted():
                 client = opened.enter_context(Client(_start_workers(workers, opened)))
         else:
-            client = opened.enter_context(Client(scheduler, timeout=PATIENCE))
+            try:
+                client = opened.enter_context(Client(scheduler, timeout=PATIENCE))
+            except ValueError as fault:  # no address
+                raise OSError(str(fault)) from None
             client.wait_for_workers(1, timeout=PATIENCE)
         yield client
 

@@ -32,10 +32,10 @@ class Store:
     """
 
     def __init__(self, path: str) -> None:
-        """Opens the file, or makes it. StoreError where it holds something else, or another process writes it."""
-        self._path = path
+        """Opens the file, or makes it. StoreError where it is none or holds something else, or another process writes it."""
+        self._path = os.path.realpath(path)  # a link stays one when the file is replaced
         self._entries: dict[str, _Entry] = {}
-        self._file = _open_alone(path)
+        self._file = _open_alone(self._path)
         try:
             self._take_stock()
         except BaseException:
@@ -66,6 +66,8 @@ class Store:
             position = self._file.seek(entry.start)
             while position < entry.end:
                 line = self._file.readline()
+                if not line:
+                    raise StoreError(f"{self._path}: another program cut it off")
                 position += len(line)
                 yield line
 
@@ -88,13 +90,20 @@ class Store:
         start = position = 0
         for line in self._file:
             if not any(line[: len(known)] == known[: len(line)] for known in STARTS):
-                raise StoreError(f"{self._path}: byte {position} was not written by this program")
-            position += len(line)
+                raise self._foreign(position)
+            end = position + len(line)
             if line.startswith(STARTS[0]) and line.endswith(b"\n"):
-                self._note(line, start, position)
-                start = position
+                try:
+                    self._note(line, start, end)
+                except (ValueError, KeyError, TypeError):
+                    raise self._foreign(position) from None
+                start = end
+            position = end
         if position > start:
             self._file.truncate(start)
+
+    def _foreign(self, position: int) -> StoreError:
+        return StoreError(f"{self._path}: byte {position} was not written by this program")
 
     def _note(self, last_line: bytes, start: int, end: int) -> None:
         fields = json.loads(last_line)
@@ -102,6 +111,8 @@ class Store:
 
 
 def _open_alone(path: str) -> BinaryIO:
+    if os.path.exists(path) and not os.path.isfile(path):
+        raise StoreError(f"{path}: not a regular file")
     file = open(path, "r+b" if os.path.exists(path) else "x+b")
     try:
         fcntl.flock(file, fcntl.LOCK_EX | fcntl.LOCK_NB)
