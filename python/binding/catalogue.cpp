@@ -12,6 +12,7 @@
 #include "buffer.h"
 #include "catalogue_rows.h"
 #include "in_use.h"
+#include "lock.h"
 #include "selection.h"
 #include "stream_reader.h"
 #include "values.h"
@@ -31,19 +32,20 @@ class StreamCatalogue final : private SectionSink {
   void push(py::handle data) {
     Buffer const buffer(data);
     InUse::Claim const claim(in_use_);
-    py::gil_scoped_release const unlocked;
+    Unlocked const unlocked;
     reader_.push(buffer.bytes().data(), buffer.bytes().size());
   }
   void finish() {
     InUse::Claim const claim(in_use_);
-    py::gil_scoped_release const unlocked;
+    Unlocked const unlocked;
     reader_.finish();
   }
 
-  /// What is known, where no other thread adds to it.
-  catalogue::Catalogue const& known() const {
-    in_use_.check();
-    return known_;
+  /// Something made of what is known, while nothing is added to it.
+  template <class Made>
+  auto made(Made make) {
+    InUse::Reading const reading(in_use_);
+    return make(known_);
   }
   std::uint64_t failures() const { return failures_; }
 
@@ -62,8 +64,8 @@ class StreamCatalogue final : private SectionSink {
 
 /// A property that is made of the catalogue each time.
 template <class Made>
-auto made_by(Made made) {
-  return [made](StreamCatalogue const& self) { return made(self.known()); };
+auto made_by(Made make) {
+  return [make](StreamCatalogue& self) { return self.made(make); };
 }
 
 }  // namespace
@@ -95,13 +97,11 @@ void add_catalogue(py::module_& module) {
       .def_property_readonly("access", made_by(access), "The CA systems of the CAT.")
       .def_property_readonly("local_time_offsets", made_by(local_time_offsets),
                              "That a TOT told last, by country.")
-      .def_property_readonly(
-          "time",
-          [](StreamCatalogue const& self) {
-            auto const time = self.known().time();
-            return time ? date(*time) : py::none();
-          },
-          "The time that a TDT or TOT told last, or None.")
+      .def_property_readonly("time", made_by([](auto const& known) {
+                               auto const time = known.time();
+                               return time ? date(*time) : py::none();
+                             }),
+                             "The time that a TDT or TOT told last, or None.")
       .def_property_readonly("failures", &StreamCatalogue::failures,
                              "Sections that were refused, as for a wrong CRC.")
       .def_property_readonly("problems", made_by([](auto const& known) { return known.problems(); }),

@@ -2,17 +2,20 @@
 // Copyright (c) 2026 the sivane authors
 #include "demux.h"
 
+#include <pybind11/stl.h>
 #include <sivane/demux/demux.h>
 #include <sivane/demux/packet_finder.h>
 
 #include <algorithm>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "buffer.h"
 #include "in_use.h"
+#include "lock.h"
 #include "packet_numbers.h"
 #include "section.h"
 
@@ -68,11 +71,11 @@ class HookedDemux : private DemuxPush, private PacketFinder {
     in_use_.check();
     for (Registration const& usual : usual_registrations()) add_psi_handler(usual.pid, usual.table_id);
   }
-  void count_pid(py::object const& pid) {
+  void count_pid(std::optional<int> pid) {
     in_use_.check();
-    if (pid.is_none()) return count_all();
-    check_pid(pid.cast<int>());
-    count(pid.cast<int>());
+    if (!pid) return count_all();
+    check_pid(*pid);
+    count(*pid);
   }
   PidCounters const* counters_of(int pid) const {
     in_use_.check();
@@ -102,7 +105,8 @@ class HookedDemux : private DemuxPush, private PacketFinder {
     InUse::Claim const claim(in_use_);
     is_ending_ = false;
     {
-      py::gil_scoped_release const unlocked;
+      Unlocked unlocked;
+      unlocked_ = &unlocked;
       try {
         run();
       } catch (...) {
@@ -114,13 +118,14 @@ class HookedDemux : private DemuxPush, private PacketFinder {
 
   /// Whether a signal or a hook wants the work to end at once.
   bool is_interrupted() {
-    py::gil_scoped_acquire const locked;
+    Unlocked::Break const locked(*unlocked_);
     if (!is_ending_ && PyErr_CheckSignals() != 0) keep(py::error_already_set());
     return std::exchange(is_ending_, false);
   }
 
   void keep(py::error_already_set raised) {
-    if (!raised.matches(PyExc_Exception)) is_ending_ = true;
+    // The depth that is exceeded would be reached again and again, by each section of each demultiplexer.
+    if (!raised.matches(PyExc_Exception) || raised.matches(PyExc_RecursionError)) is_ending_ = true;
     if (!raised_) raised_ = std::make_exception_ptr(std::move(raised));
   }
 
@@ -140,7 +145,7 @@ class HookedDemux : private DemuxPush, private PacketFinder {
   void on_psi_section(int pid, int, int, unsigned char const* section) override {
     auto const size = static_cast<std::size_t>(section_size(section));
     std::uint64_t const offset = section_offset();
-    py::gil_scoped_acquire const locked;
+    Unlocked::Break const locked(*unlocked_);
     if (is_ending_) return;
     try {
       on_section(make_section({pid, section, size, offset, numbers_.at(offset)}, settings_));
@@ -153,8 +158,9 @@ class HookedDemux : private DemuxPush, private PacketFinder {
   PacketNumbers numbers_;
   std::uint64_t pushed_ = 0;
   InUse in_use_;
-  std::exception_ptr raised_;  // the first of the call under way
-  bool is_ending_ = false;     // what was raised is no mere failure but an order to stop
+  Unlocked* unlocked_ = nullptr;  // while it works
+  std::exception_ptr raised_;     // the first of the call under way
+  bool is_ending_ = false;        // what was raised is no mere failure but an order to stop
 };
 
 /// Calls the hook of the class in Python.
@@ -162,9 +168,12 @@ class Demultiplexer final : public HookedDemux {
  public:
   using HookedDemux::HookedDemux;
   void on_section(py::object section) override {
-    if (py::function const hook = py::get_override(static_cast<HookedDemux const*>(this), "on_psi_section")) {
-      hook(std::move(section));
-    }
+    static PyObject* const name = PyUnicode_InternFromString("on_psi_section");
+    py::object const self = py::cast(static_cast<HookedDemux*>(this));
+    PyObject* const nothing =
+        outliving_the_interpreter([&] { return PyObject_CallMethodOneArg(self.ptr(), name, section.ptr()); });
+    if (nothing == nullptr) throw py::error_already_set();
+    Py_DECREF(nothing);
   }
 };
 
@@ -196,7 +205,8 @@ void add_demux(py::module_& module) {
       "push.\n\n"
       "What the hook raises leaves the call that pushed, once all that was pushed is dealt with; of several "
       "the "
-      "first. A KeyboardInterrupt ends the call at once. One thread at a time may use an object.")
+      "first. A KeyboardInterrupt or RecursionError ends the call at once. One thread at a time may use an "
+      "object.")
       .def(py::init<bool, bool, std::string const&, std::string const&>(), py::kw_only(),
            py::arg("every_section") = true, py::arg("tolerant") = false, py::arg("charset") = "",
            py::arg("charset_always") = "")

@@ -7,21 +7,36 @@
 
 namespace sivane::python {
 
-/// Keeps other threads away from an object that works without the interpreter's lock. To be used with the
-/// lock held.
+/// Keeps others away from an object that works without the interpreter's lock. To be used with the lock held.
 class InUse {
  public:
-  /// Throws where the object works already.
+  /// Throws where the object works or is read.
   class Claim {
    public:
     explicit Claim(InUse& by) : by_(by) {
-      if (by.is_in_use_) throw std::runtime_error("the object is at work already");
+      if (by.is_in_use_ || by.readers_ > 0) throw std::runtime_error("the object is at work already");
       by.is_in_use_ = true;
       by.owner_ = std::this_thread::get_id();
     }
     Claim(Claim const&) = delete;
     Claim& operator=(Claim const&) = delete;
     ~Claim() { by_.is_in_use_ = false; }
+
+   private:
+    InUse& by_;
+  };
+
+  /// Of those that leave the object as it is: what they make lets the collector run, and with it anything.
+  class Reading {
+   public:
+    /// Throws where the object works.
+    explicit Reading(InUse& by) : by_(by) {
+      if (by.is_in_use_) throw std::runtime_error("the object is at work in another thread");
+      ++by.readers_;
+    }
+    Reading(Reading const&) = delete;
+    Reading& operator=(Reading const&) = delete;
+    ~Reading() { --by_.readers_; }
 
    private:
     InUse& by_;
@@ -36,6 +51,7 @@ class InUse {
 
  private:
   bool is_in_use_ = false;
+  int readers_ = 0;
   std::thread::id owner_;
 };
 

@@ -8,6 +8,7 @@
 
 #include "buffer.h"
 #include "in_use.h"
+#include "lock.h"
 #include "section_batch.h"
 #include "selection.h"
 
@@ -37,7 +38,7 @@ class SectionReader {
   py::object give(Read read) {
     InUse::Claim const claim(in_use_);
     {
-      py::gil_scoped_release const unlocked;
+      Unlocked const unlocked;
       read();
     }
     return make_batch(std::exchange(queue_, {}), settings_);

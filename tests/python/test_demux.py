@@ -118,6 +118,32 @@ def test_a_demux_at_work_takes_nothing_else():
     assert len(failures) == 3
 
 
+def test_whatever_can_be_called_is_a_hook():
+    class Plain(sivane.Demux):
+        pass
+
+    seen = []
+    for hook in [None, seen.append]:
+        demux = Plain()
+        demux.add_usual_handlers()
+        if hook:
+            demux.on_psi_section = hook
+        demux.push(STREAM)
+    assert seen
+    demux.on_psi_section = None
+    with pytest.raises(TypeError):
+        demux.push(STREAM)
+
+
+def test_hooks_without_an_end():
+    class Endless(Recorder):
+        def on_psi_section(self, section):
+            Endless().push(STREAM)
+
+    with pytest.raises(RecursionError):
+        Endless().push(STREAM)
+
+
 def test_subclasses_that_forget_their_base():
     class Forgetful(sivane.Demux):
         def __init__(self):

@@ -217,6 +217,33 @@ def test_the_keyboard_interrupts(timer, work):
     assert taken and int(taken[1]) < 10_000, run.stderr.decode()
 
 
+LEFT_AT_WORK = """
+import itertools, sivane, sys, threading
+
+class Hooked(sivane.Demux):
+    def on_psi_section(self, section):
+        begun.set()
+
+def push():
+    demux.add_psi_handler(0, 0)
+    while True:
+        demux.push(packets)
+
+packets = sys.stdin.buffer.read()
+demux = Hooked()
+begun = threading.Event()
+for work in [push, lambda: any(one.pid for one in sivane.sections(itertools.repeat(packets))), lambda: sivane.catalogue(itertools.repeat(packets))]:
+    threading.Thread(target=work, daemon=True).start()
+begun.wait()
+"""
+
+
+def test_the_interpreter_ends_while_threads_work():
+    run = subprocess.run([sys.executable, "-c", LEFT_AT_WORK], input=b"".join(packets(PAT, count=10_000)),
+                         capture_output=True, timeout=HANGING, check=False)
+    assert (run.returncode, run.stderr) == (0, b"")
+
+
 def test_memory_is_flat():
     """10,000 sections, each with its table, fields, and a failure."""
     text = assemble('42 B( 0001 C1 00 00 0002 FF 0003 FC 8( 48[ 01 [ "Apfel" ] [ 05 C4 ] ] ) crc )')

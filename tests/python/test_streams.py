@@ -2,6 +2,7 @@
 # Copyright (c) 2026 the sivane authors
 """Sections, fields and catalogue of streams, held against what the command-line tool prints of them."""
 
+import gc
 import io
 import re
 import xml.etree.ElementTree as ElementTree
@@ -94,6 +95,29 @@ def test_rows_are_tables_of_pandas(sample):
     events = pandas.DataFrame(known.events)
     assert len(events) > 0 and str(events["start"].dtype) == "datetime64[ns, UTC]"
     assert list(pandas.DataFrame(known.services)["name"]) == [service["name"] for service in known.services]
+
+
+def test_a_catalogue_that_is_read_takes_nothing(sample):
+    known = sivane.catalogue(sample)
+    refused = []
+
+    def push(phase, _):  # by the collector, as a finaliser would
+        if phase == "start" and not refused:
+            with pytest.raises(RuntimeError, match="at work") as caught:
+                known.push(sample.read_bytes())
+            refused.append(caught)
+
+    held = [{} for _ in range(100)]  # more than the interpreter has at hand, without the collector
+    usual = gc.get_threshold()
+    gc.callbacks.append(push)
+    gc.set_threshold(1)
+    try:
+        events = known.events
+    finally:
+        gc.set_threshold(*usual)
+        gc.callbacks.remove(push)
+    assert held and refused and events == known.events
+    known.push(sample.read_bytes())
 
 
 def test_sources_of_all_kinds(sample):
