@@ -95,7 +95,8 @@ PyTypeObject* type_of(Place const& place) {
   if (auto const* const table = std::get_if<AnyTable const*>(&place.of))
     return types.tables[(*table)->index()];
   if (std::holds_alternative<FieldHolder>(place.of)) return types.record;
-  auto const found = types.descriptors.find(typeid(*std::get<DescriptorBase const*>(place.of)));
+  DescriptorBase const& descriptor = *std::get<DescriptorBase const*>(place.of);
+  auto const found = types.descriptors.find(typeid(descriptor));
   return found == types.descriptors.end() ? types.descriptor : found->second;
 }
 
