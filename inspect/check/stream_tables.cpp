@@ -75,9 +75,14 @@ void StreamTables::take(sivane::Pat const& pat) {
   std::map<int, Program> const before = programs_;
   if (is_new) programs_.clear();
   if (is_new) network_pids_.clear();
+  if (is_new) follows_all_programs_ = true;
   for (auto const& info : pat.program_infos) {
     if (info.program_number == 0) {
       network_pids_.insert(info.program_map_pid);
+      continue;
+    }
+    if (programs_.size() >= most_followed && !programs_.contains(info.program_number)) {
+      follows_all_programs_ = false;
       continue;
     }
     auto const known = before.find(info.program_number);
@@ -117,13 +122,13 @@ void StreamTables::take(sivane::Sdt const& sdt) {
   if (sdt.version_number != sdt_version_) services_.clear();
   sdt_version_ = sdt.version_number;
   for (auto const& info : sdt.service_infos) {
-    if (info.EIT_present_following_flag == 1)
+    if (info.EIT_present_following_flag == 1 && services_.size() < most_followed)
       services_.insert({info.service_id, sdt.context_id, sdt.original_network_id});
   }
 }
 
 bool StreamTables::has_all_maps() const {
-  return has_pat_ &&
+  return has_pat_ && follows_all_programs_ &&
          std::ranges::all_of(programs_, [](auto const& entry) { return entry.second.pcr_pid >= 0; });
 }
 

@@ -4,12 +4,17 @@
 
 #include <sivane/sivane.h>
 
+#include <cstddef>
 #include <map>
 #include <set>
 
 #include "check/observation.h"
 
 namespace inspect {
+
+/// So many programs are followed, and as many services: what they name is gone through with each table that
+/// changes.
+inline constexpr std::size_t most_followed = 512;
 
 /// A service as an SDT of the actual stream tells of it.
 struct AnnouncedService {
@@ -53,6 +58,7 @@ class StreamTables {
   bool is_map_of_program(Observation const& observation) const;
   void collect_names();
 
+  bool follows_all_programs_ = true;
   bool has_pat_ = false, has_cat_ = false, is_terrestrial_ = false, knows_network_ = false;
   int pat_version_ = -1, sdt_version_ = -1;
   std::map<int, Program> programs_;
