@@ -111,7 +111,7 @@ def test_no_scheduler_has_such_an_address():
     from sivane.archive.cluster import connect
 
     for address in ["", "nowhere", "what://nowhere:1"]:
-        with pytest.raises(OSError), connect(address, 1):
+        with pytest.raises(OSError, match="is no address"), connect(address, 1):
             pass
 
 

@@ -10,6 +10,7 @@ import tempfile
 from collections.abc import Iterator
 
 from distributed import Client, LocalCluster
+from distributed.comm import get_address_host_port
 
 PATIENCE = "30 s"
 
@@ -24,12 +25,18 @@ def connect(scheduler: str | None, workers: int) -> Iterator[Client]:
             with _uninterrupted():
                 client = opened.enter_context(Client(_start_workers(workers, opened)))
         else:
-            try:
-                client = opened.enter_context(Client(scheduler, timeout=PATIENCE))
-            except ValueError as fault:  # no address
-                raise OSError(str(fault)) from None
+            _check_address(scheduler)
+            client = opened.enter_context(Client(scheduler, timeout=PATIENCE))
             client.wait_for_workers(1, timeout=PATIENCE)
         yield client
+
+
+def _check_address(scheduler: str) -> None:
+    # Before there is a client: one that fails at its address is half made, and holds up the end of the process.
+    try:
+        get_address_host_port(scheduler)
+    except ValueError:
+        raise OSError(f"{scheduler!r} is no address of a scheduler, as tcp://host:8786") from None
 
 
 def process_ids(client: Client) -> list[int]:
