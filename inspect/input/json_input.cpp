@@ -17,15 +17,16 @@ void drop_names(JsonValue& value) {
   if (value.IsArray()) {
     for (JsonValue& item : value.GetArray()) drop_names(item);
   } else if (value.IsObject()) {
+    auto const end = value.MemberEnd();
     auto kept = value.MemberBegin();
-    for (auto& member : value.GetObject()) {
-      if (is_code_name(string_of(member.name))) continue;
-      drop_names(member.value);
-      kept->name.Swap(member.name);
-      kept->value.Swap(member.value);
+    for (auto member = kept; member < end; ++member) {
+      if (is_code_name(string_of(member->name))) continue;
+      drop_names(member->value);
+      kept->name.Swap(member->name);
+      kept->value.Swap(member->value);
       ++kept;
     }
-    if (kept != value.MemberEnd()) value.EraseMember(kept, value.MemberEnd());
+    if (kept < end) value.EraseMember(kept, end);
   }
 }
 
