@@ -10,68 +10,62 @@ namespace py = pybind11;
 
 namespace {
 
-/// Looks for one field among those of an object, and converts nothing else.
+/// Is told one field, and converts it.
 class AttributeFinder final : public FieldVisitor {
  public:
-  AttributeFinder(Place const& place, std::string_view wanted) : place_(place), wanted_(wanted) {}
+  AttributeFinder(Place const& place, std::string_view wanted) : FieldVisitor(wanted), place_(place) {}
 
   py::object found;
 
  private:
-  void number(Field const& field, std::int64_t value) override {
-    give(field, [value] { return py::int_(value); });
+  void number(Field const&, std::int64_t value) override {
+    give([value] { return py::int_(value); });
   }
-  void real(Field const& field, double value) override {
-    give(field, [value] { return py::float_(value); });
+  void real(Field const&, double value) override {
+    give([value] { return py::float_(value); });
   }
-  void flag(Field const& field, bool value) override {
-    give(field, [value] { return py::bool_(value); });
+  void flag(Field const&, bool value) override {
+    give([value] { return py::bool_(value); });
   }
-  void text(Field const& field, std::string_view text) override {
-    give(field, [this, text] { return utf8(place_.held->settings->texts.utf8(text)); });
+  void text(Field const&, std::string_view text) override {
+    give([this, text] { return utf8(place_.held->settings->texts.utf8(text)); });
   }
-  void string(Field const& field, std::string_view value) override {
-    give(field, [value] { return utf8(value); });
+  void string(Field const&, std::string_view value) override {
+    give([value] { return utf8(value); });
   }
-  void code(Field const& field, std::string_view letters) override {
-    give(field, [letters] { return utf8(letters.substr(0, letters.find('\0'))); });
+  void code(Field const&, std::string_view letters) override {
+    give([letters] { return utf8(letters.substr(0, letters.find('\0'))); });
   }
-  void bytes(Field const& field, unsigned char const* data, std::size_t size) override {
-    give(field, [data, size] { return python::bytes(data, size); });
+  void bytes(Field const&, unsigned char const* data, std::size_t size) override {
+    give([data, size] { return python::bytes(data, size); });
   }
-  void date(Field const& field, DateTime const& value) override {
-    give(field, [&value] { return python::date(value); });
+  void date(Field const&, DateTime const& value) override {
+    give([&value] { return python::date(value); });
   }
-  void duration(Field const& field, Duration const& value) override {
-    give(field, [&value] { return python::duration(value); });
+  void duration(Field const&, Duration const& value) override {
+    give([&value] { return python::duration(value); });
   }
 
-  bool wants_list(Field const& field) override { return is_wanted(field); }
   void begin_list(Field const&, std::size_t size) override { found = items_ = py::tuple(size); }
   void end_list() override { items_ = {}; }
-  void record(Field const& field, FieldHolder const& record) override {
-    give(field, [&] { return make_node({place_.held, record}); });
+  void record(Field const&, FieldHolder const& record) override {
+    give([&] { return make_node({place_.held, record}); });
   }
   void descriptor(std::string_view element, DescriptorBase const& descriptor) override {
-    give({}, [&] { return make_node({place_.held, &descriptor, element}); });
+    give([&] { return make_node({place_.held, &descriptor, element}); });
   }
 
-  bool is_wanted(Field const& field) const {
-    return field.member.size() == wanted_.size() && field.member == wanted_;
-  }
-
-  /// The value, where it is the field or an item of the list that is wanted.
+  /// Takes the value of the field, or an item of its list.
   template <class Make>
-  void give(Field const& field, Make make) {
+  void give(Make make) {
     if (items_) {
       PyTuple_SET_ITEM(items_.ptr(), next_++, py::object(make()).release().ptr());
-    } else if (is_wanted(field)) {
+    } else {
       found = make();
     }
   }
 
   Place const& place_;
-  std::string_view wanted_;
   py::object items_;  // the list that is wanted, while it is told
   Py_ssize_t next_ = 0;
 };

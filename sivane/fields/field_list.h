@@ -15,6 +15,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -110,22 +111,22 @@ class FieldList {
   }
   void add(FieldName name, unsigned char& v, int bits) { number(name, &v, bits, failed); }
   void add(FieldName name, bool& v) { number(name, &v, 1, failed); }
-  void add(FieldName name, double& v) { value(name, &v, failed); }
+  void add(FieldName name, double& v) { tell(name, &v, failed); }
   void add(FieldName name, std::vector<int>& v, int bits) { number(name, &v, bits, failed); }
   void add(FieldName name, std::vector<unsigned long>& v, int bits) { number(name, &v, bits, failed); }
-  void add(FieldName name, std::vector<unsigned char>& v) { value(name, &v, failed); }
-  void add(FieldName name, std::vector<std::string>& v) { value(name, &v, failed); }
-  void add(FieldName name, Text& v) { value(name, &v, failed); }
+  void add(FieldName name, std::vector<unsigned char>& v) { tell(name, &v, failed); }
+  void add(FieldName name, std::vector<std::string>& v) { tell(name, &v, failed); }
+  void add(FieldName name, Text& v) { tell(name, &v, failed); }
   /// A string for programs.
-  void add(FieldName name, std::string& v) { value(name, &v, failed); }
+  void add(FieldName name, std::string& v) { tell(name, &v, failed); }
   /// A string for people, as it came.
-  void text(FieldName name, std::string& v) { value(name, BroadcastString{&v}, failed); }
+  void text(FieldName name, std::string& v) { tell(name, BroadcastString{&v}, failed); }
   /// A code of three letters.
-  void add(FieldName name, char (&v)[4]) { value(name, &v, failed); }
-  void add(FieldName name, unsigned char (&v)[16]) { value(name, &v, failed); }
-  void add(FieldName name, DateTime& v) { value(name, &v, failed); }
-  void add(FieldName name, Duration& v) { value(name, &v, failed); }
-  void add(FieldName name, ApplicationIdentifier& v) { value(name, &v, failed); }
+  void add(FieldName name, char (&v)[4]) { tell(name, &v, failed); }
+  void add(FieldName name, unsigned char (&v)[16]) { tell(name, &v, failed); }
+  void add(FieldName name, DateTime& v) { tell(name, &v, failed); }
+  void add(FieldName name, Duration& v) { tell(name, &v, failed); }
+  void add(FieldName name, ApplicationIdentifier& v) { tell(name, &v, failed); }
   /// No such form in the documents.
   template <class Value>
   void add(FieldName name, Value& value) = delete;
@@ -133,29 +134,35 @@ class FieldList {
   /// The records of a descriptor or record; `item` is the element of one.
   template <class Record>
   void list(FieldName name, Record& records, char16_t const* item) {
-    record_list(name, item, AnyRecords(records));
+    if (has(name.field.member)) record_list(name, item, AnyRecords(records));
   }
   /// The entries of a table. `failure` is thrown where one has no attributes.
   template <class Entry>
   void entries(FieldName name, std::vector<Entry>& all, char16_t const* item, char const* failure = failed) {
-    entry_list(name, item, AnyRecords(all), failure);
+    if (has(name.field.member)) entry_list(name, item, AnyRecords(all), failure);
   }
   /// One record, in an element of its own.
   template <class Record>
   void child(FieldName name, Record& record) {
-    record_child(name, AnyRecord(record));
+    if (has(name.field.member)) record_child(name, AnyRecord(record));
   }
-  void child(FieldName name, DateTime& date) { date_child(name, date); }
+  void child(FieldName name, DateTime& date) {
+    if (has(name.field.member)) date_child(name, date);
+  }
 
   /// The descriptors of a table or entry.
   virtual void descriptors(DescriptorSet& set) = 0;
   virtual void descriptors(AitDescriptorSet& set) = 0;
 
  protected:
-  FieldList() = default;
+  /// Of all members, or only of this one: the others are passed over here, where their names are constants.
+  explicit FieldList(std::string_view only_member = {}) : only_member_(only_member) {}
   FieldList(FieldList const&) = delete;
   FieldList& operator=(FieldList const&) = delete;
   ~FieldList() = default;
+
+  /// Whether a member is one that is asked for.
+  bool has(std::string_view member) const { return only_member_.empty() || member == only_member_; }
 
  private:
   virtual void value(FieldName const& name, FieldValue value, char const* failure) = 0;
@@ -167,8 +174,13 @@ class FieldList {
 
   void number(FieldName& name, FieldValue v, int bits, char const* failure) {
     name.field.bits = bits;
-    value(name, v, failure);
+    tell(name, v, failure);
   }
+  void tell(FieldName const& name, FieldValue v, char const* failure) {
+    if (has(name.field.member)) value(name, v, failure);
+  }
+
+  std::string_view only_member_;
 };
 
 // What is done with an object's fields. Saving and loading, with a document's nodes as `void*`, are in

@@ -60,6 +60,9 @@ class SIVANE_API FieldVisitor {
   virtual void date(Field const& field, DateTime const& value);      ///< UTC
   virtual void duration(Field const& field, Duration const& value);  ///< hours, minutes and seconds
 
+  /// The member whose field alone it is told; empty for all.
+  std::string_view only_member() const { return only_member_; }
+
   /// Whether a list is told at all, to spare the walk through one that nobody asked for. Unless overridden:
   /// yes.
   virtual bool wants_list(Field const& field);
@@ -82,9 +85,16 @@ class SIVANE_API FieldVisitor {
 
  protected:
   FieldVisitor() = default;
+  /// For the field of this member alone, which is found sooner than among all. A list of this name is told,
+  /// and of the records in it again what has the name: such a visitor overrides `record` and `descriptor`.
+  /// The name must outlive the visitor.
+  explicit FieldVisitor(std::string_view member) : only_member_(member) {}
   FieldVisitor(FieldVisitor const&) = default;
   FieldVisitor& operator=(FieldVisitor const&) = default;
   ~FieldVisitor() = default;
+
+ private:
+  std::string_view only_member_;
 };
 
 }  // namespace sivane

@@ -23,6 +23,8 @@ constexpr std::string_view ait_element_names[] = {
 #include <sivane/descriptors/ait_descriptor_rows.inc>
 };
 
+constexpr Field descriptor_list = {"descriptors", "descriptors"};
+
 /// Gives each form of a member to the operation of its kind.
 class TellValue {
  public:
@@ -74,10 +76,14 @@ class TellValue {
 
 class Walk final : public FieldList {
  public:
-  explicit Walk(FieldVisitor& visitor) : visitor_(visitor) {}
+  explicit Walk(FieldVisitor& visitor) : FieldList(visitor.only_member()), visitor_(visitor) {}
 
-  void descriptors(DescriptorSet& set) override { set.visit_descriptors(visitor_); }
-  void descriptors(AitDescriptorSet& set) override { set.visit_descriptors(visitor_); }
+  void descriptors(DescriptorSet& set) override {
+    if (has(descriptor_list.member)) set.visit_descriptors(visitor_);
+  }
+  void descriptors(AitDescriptorSet& set) override {
+    if (has(descriptor_list.member)) set.visit_descriptors(visitor_);
+  }
 
  private:
   void value(FieldName const& name, FieldValue value, char const*) override {
@@ -107,11 +113,10 @@ class Walk final : public FieldList {
 };
 
 void visit_list(DescriptorGroups const& groups, std::string_view const* names, FieldVisitor& visitor) {
-  Field const field = {"descriptors", "descriptors"};
-  if (!visitor.wants_list(field)) return;
+  if (!visitor.wants_list(descriptor_list)) return;
   std::size_t size = 0;
   DescriptorStorage::each(groups, [&size](int, DescriptorBase const&) { ++size; });
-  visitor.begin_list(field, size);
+  visitor.begin_list(descriptor_list, size);
   DescriptorStorage::each(
       groups, [&](int row, DescriptorBase const& descriptor) { visitor.descriptor(names[row], descriptor); });
   visitor.end_list();

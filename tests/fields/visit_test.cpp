@@ -6,6 +6,9 @@
 #include <sivane/sivane.h>
 
 #include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "descriptor_cases.h"
 #include "memory_dom.h"
@@ -118,6 +121,42 @@ TEST(Visits, PassOverListsThatAreNotWanted) {
   EXPECT_EQ(visitor.lists, (Names{"descriptors", "service_infos"}));
   EXPECT_GT(numbers_of_table, 0);
   EXPECT_GT(visitor.numbers, numbers_of_table);
+}
+
+/// Is told one field, and notes what it was.
+struct OneField final : FieldVisitor {
+  explicit OneField(std::string_view member) : FieldVisitor(member) {}
+  void number(Field const&, std::int64_t value) override { told.push_back(std::to_string(value)); }
+  void date(Field const&, DateTime const& value) override { told.push_back(std::to_string(value.year)); }
+  void begin_list(Field const&, std::size_t size) override {
+    told.push_back(std::to_string(size) + " items");
+  }
+  void record(Field const&, FieldHolder const&) override { told.push_back("record"); }
+  void descriptor(std::string_view, DescriptorBase const&) override { told.push_back("descriptor"); }
+
+  std::vector<std::string> told;
+};
+
+template <class Object>
+std::vector<std::string> told_of(Object const& object, std::string_view member) {
+  OneField visitor(member);
+  object.visit(visitor);
+  return visitor.told;
+}
+
+TEST(Visits, TellTheFieldAloneThatIsAskedFor) {
+  using Told = std::vector<std::string>;
+  Sdt sdt;
+  sdt.original_network_id = 7;
+  sdt.service_infos.resize(2);
+  EXPECT_EQ(told_of(sdt, "original_network_id"), Told{"7"});
+  EXPECT_EQ(told_of(sdt, "service_infos"), (Told{"2 items", "record", "record"}));
+  EXPECT_EQ(told_of(sdt.service_infos[0], "descriptors"), Told{"0 items"});
+  EXPECT_EQ(told_of(sdt, "descriptors"), Told());
+  DescriptorLocalTimeOffset::LocalTime local;
+  local.time_of_change.year = 2031;
+  EXPECT_EQ(told_of(local, "time_of_change"), Told{"2031"});
+  EXPECT_EQ(told_of(local, "next_time_offset"), Told{"record"});
 }
 
 TEST(Equality, IsThatOfEveryMember) {
