@@ -62,7 +62,7 @@ def open_address(name: str) -> Datagrams:
     try:
         listening.setsockopt(socket.SOL_SOCKET, socket.SO_REUSEADDR, 1)
         listening.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, RECEIVE_BUFFER)
-        listening.bind(("" if bound is None else str(bound), port))
+        listening.bind(_place(bound, port))
         _join(listening, group, local)
     except BaseException:
         listening.close()
@@ -88,11 +88,25 @@ def _address(text: str) -> _Address:
     return ipaddress.ip_address(text) if text else None
 
 
+def _place(address: _Address, port: int) -> tuple[str, int] | tuple[str, int, int, int]:
+    if address is None or address.version == 4:
+        return "" if address is None else str(address), port
+    return str(address).partition("%")[0], port, 0, _interface(address)
+
+
+def _interface(address: ipaddress.IPv6Address) -> int:
+    """The number of the interface that the address names behind a "%"; 0 where it names none."""
+    name = address.scope_id or "0"
+    return int(name) if name.isdecimal() else socket.if_nametoindex(name)
+
+
 def _join(listening: socket.socket, group: _Address, local: _Address) -> None:
     if group is None or not group.is_multicast:
         return
     if group.version == 4:
+        if local and local.version != 4:
+            raise ValueError(f"{local} is no address of IPv4, which {group} needs")
         interface = socket.inet_aton(str(local) if local else "0.0.0.0")
         listening.setsockopt(socket.IPPROTO_IP, socket.IP_ADD_MEMBERSHIP, group.packed + interface)
     else:
-        listening.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_JOIN_GROUP, group.packed + struct.pack("@I", 0))
+        listening.setsockopt(socket.IPPROTO_IPV6, socket.IPV6_JOIN_GROUP, group.packed + struct.pack("@I", _interface(group)))

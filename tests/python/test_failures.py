@@ -71,6 +71,7 @@ def test_sources_without_packets(tmp_path):
     with pytest.raises(IsADirectoryError):
         list(sivane.sections(tmp_path))
     for wrong in ["udp://", "udp://239.0.0.1", "rtp://239.0.0.1:0", "udp://nowhere:5000", "udp://:5000?ttl=1",
+                  "udp://239.0.0.1:5000?localaddr=::1",
                   "dvb://", "dvb://a", "dvb://0/0/0"]:
         with pytest.raises(ValueError):
             sivane.sections(wrong)
