@@ -204,9 +204,8 @@ void add_demux(py::module_& module) {
       "From packets to sections, for hosts of their own: derive, override `on_psi_section`, register, "
       "push.\n\n"
       "What the hook raises leaves the call that pushed, once all that was pushed is dealt with; of several "
-      "the "
-      "first. A KeyboardInterrupt or RecursionError ends the call at once. One thread at a time may use an "
-      "object.")
+      "the first. A KeyboardInterrupt or RecursionError ends the call at once. One thread at a time may "
+      "use an object.")
       .def(py::init<bool, bool, std::string const&, std::string const&>(), py::kw_only(),
            py::arg("every_section") = true, py::arg("tolerant") = false, py::arg("charset") = "",
            py::arg("charset_always") = "")
