@@ -45,7 +45,7 @@ void add_names_of_codes(py::module_& module) {
              "table 26).");
 }
 
-/// Whose number it is, by the lists of ETSI TS 101 162.
+/// Whose number it is, by the lists of ETSI TR 101 162.
 void add_registered_names(py::module_& module) {
   module.def("network_name", registered_name<get_network_id>, py::arg("network_id"),
              "What a network_id of 16 bits is registered for, or None.");

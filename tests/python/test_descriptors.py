@@ -8,6 +8,7 @@ from cases import descriptors_of_cases, sections_of_cases, table_of
 from plain import fields_of, plain
 from section_text import assemble
 
+
 @pytest.mark.parametrize("folder, is_of_ait", [("cases", False), ("cases", True), ("extended", False)])
 def test_every_class_reads_as_attributes(folder, is_of_ait):
     seen = set()
