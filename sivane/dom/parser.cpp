@@ -11,9 +11,19 @@ Pointer not_null(Pointer pointer) {
   if (pointer == nullptr) throw std::bad_alloc();
   return pointer;
 }
+
+/// Newer versions of Expat look at an unfinished token again only once there is twice as much of it. Those
+/// who feed this parser see to that themselves, and have no more to feed where an element has its largest
+/// size.
+template <class Expat>
+void look_at_each_piece(Expat parser) {
+  if constexpr (requires { XML_SetReparseDeferralEnabled(parser, XML_FALSE); })
+    XML_SetReparseDeferralEnabled(parser, XML_FALSE);
+}
 }  // namespace
 
 Parser::Parser(Content& content) : content_(content), parser_(not_null(XML_ParserCreate(nullptr))) {
+  look_at_each_piece(parser_.get());
   XML_SetUserData(parser_.get(), this);
   XML_SetElementHandler(parser_.get(), on_start, on_end);
   XML_SetCharacterDataHandler(parser_.get(), on_text);
