@@ -96,6 +96,7 @@ class NameLister final : public FieldVisitor {
 }  // namespace
 
 py::object attribute(Place const& place, std::string_view name) {
+  if (name.empty()) return {};  // a visitor for no name would be told all fields
   AttributeFinder finder(place, name);
   place.visit(finder);
   return finder.found;
